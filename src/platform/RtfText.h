@@ -1,0 +1,16 @@
+// RTF to plain text: one text for a whole file, each paragraph ended by CR LF, table cells and tab stops as Tab.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vrek {
+
+/// The text of an RTF document, UTF-8. What doesn't begin with "{\rtf" is plain text in the code page, its line
+/// ends becoming CR LF. Broken input gives what could be read; never a failure.
+std::string RtfToText(std::string_view sBytes);
+
+/// RtfToText of a file. Failures as CTextFile.
+std::string ReadRtfFile(const std::string& sPath);
+
+}  // namespace vrek
