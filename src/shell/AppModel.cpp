@@ -45,6 +45,10 @@ clsAppModel& AppModel() {
   return *pAppModel;
 }
 
+bool HasAppModel() {
+  return pAppModel != nullptr;
+}
+
 clsAppModel* SetAppModel(clsAppModel* pModel) {
   return std::exchange(pAppModel, pModel);
 }

@@ -95,7 +95,9 @@ void PrintLastResort(const Failure& Error) noexcept {
 }  // namespace
 
 void ErrHandler(const Failure& Error) {
-  if (const std::string_view sToken = TokenOf(Error.nNumber); !sToken.empty()) {
+  if (!HasAppModel()) {
+    PrintLastResort(Error);
+  } else if (const std::string_view sToken = TokenOf(Error.nNumber); !sToken.empty()) {
     ShowBox(TokenText(Error, sToken), EIcon::eWarning);
   } else if (Error.nNumber == Error::nAssertion) {
     HandleAssertion(Error);
