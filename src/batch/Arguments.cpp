@@ -1,8 +1,7 @@
 #include "batch/Arguments.h"
 
 #include <CLI/CLI.hpp>
-#include <functional>
-#include <iostream>
+#include <ostream>
 
 #include "base/Configuration.h"
 #include "base/ST.h"
@@ -18,13 +17,6 @@ struct TConvertOptions {
   std::vector<std::string> aJobFiles;
   bool bFromCentre = false, bLeftFromRight = false, bRightFromLeft = false;
 };
-
-void AddOptionalText(CLI::App& App, const std::string& sName, std::optional<std::string>& sValue,
-                     const std::string& sHelp, const std::string& sType) {
-  App.add_option_function<std::string>(
-         sName, [&sValue](const std::string& sText) { sValue = sText; }, sHelp)
-      ->type_name(sType);
-}
 
 // A number as a person would type it; the text is kept as given.
 void AddNumber(CLI::App& App, const std::string& sName, std::optional<std::string>& sValue, const std::string& sHelp) {
