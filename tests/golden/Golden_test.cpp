@@ -1,6 +1,6 @@
-// Whole conversions against their expected documents and outcomes. Each case is a folder: input files, job.toml,
-// expected.xml (where a document is written) and expected.json. Runs the project's own cases, or those in the
-// folders named on the command line.
+// Whole conversions against their expected documents and outcomes. Each case is a folder: input files,
+// job.toml, expected.xml (where a document is written) and expected.json. Runs the project's own cases, or
+// those in the folders named on the command line.
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -47,17 +47,16 @@ std::string Difference(const std::string& sExpected, const std::string& sActual)
     return Visible(std::string_view(sText).substr(nFirst, sText.find('\n', nAt) - nFirst));
   };
   std::ostringstream Out;
-  Out << "differs at byte " << nAt << ", line " << 1 + std::count(sExpected.begin(), Parting.first, '\n') << " ("
-      << sExpected.size() << " bytes expected, " << sActual.size() << " written)\n  expected: " << Line(sExpected)
-      << "\n  written:  " << Line(sActual);
+  Out << "differs at byte " << nAt << ", line " << 1 + std::count(sExpected.begin(), Parting.first, '\n')
+      << " (" << sExpected.size() << " bytes expected, " << sActual.size()
+      << " written)\n  expected: " << Line(sExpected) << "\n  written:  " << Line(sActual);
   return Out.str();
 }
 
 // The outcome in the form of the expected files.
 json Digest(const json& Outcome) {
-  json Out{{"valid", Outcome["valid"]},       {"fault", Outcome["fault"]},
-           {"imported", Outcome["imported"]}, {"exported", Outcome["exported"]},
-           {"marks", json::object()},         {"names", json::object()},
+  json Out{{"valid", Outcome["valid"]},       {"fault", Outcome["fault"]}, {"imported", Outcome["imported"]},
+           {"exported", Outcome["exported"]}, {"marks", json::object()},   {"names", json::object()},
            {"reports", json::object()},       {"rows", json::object()}};
   for (const auto& File : Outcome["files"]) {
     const std::string sKey = File["key"];
