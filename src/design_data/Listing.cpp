@@ -27,18 +27,18 @@ CListing::CListing(const std::string& sPath) : m_sPath(sPath), m_File(OpenTextFi
 std::string_view CListing::NextFilledLine() {
   while (NextLine().empty() && !AtEnd()) {
   }
-  return m_sLine;
+  return m_Line.sText;
 }
 
 std::string_view CListing::NextLineNotBlank() {
   while (ST::Trim(NextLine()).empty() && !AtEnd()) {
   }
-  return m_sLine;
+  return m_Line.sText;
 }
 
-void CListing::Refuse(std::int32_t nNumber) const {
+void CListing::Refuse(std::int32_t nNumber, const TLine& Line) const {
   try {
-    LogMessage(m_sPath + ", line " + std::to_string(m_nLine) + ": " + Shown(m_sLine));
+    LogMessage(m_sPath + ", line " + std::to_string(Line.nNumber) + ": " + Shown(Line.sText));
   } catch (const Failure&) {
     // A log that can't be written must not hide what is wrong with the listing.
   }

@@ -9,6 +9,12 @@
 
 namespace vrek {
 
+/// A line of a listing and its number, from 1.
+struct TLine {
+  std::string_view sText;
+  int nNumber = 0;
+};
+
 class CListing {
  public:
   /// Opens the file. Failures as CTextFile.
@@ -21,9 +27,8 @@ class CListing {
 
   /// The next line, valid as long as this object. At the end: failure 62.
   std::string_view NextLine() {
-    m_sLine = m_File.NextLine();
-    ++m_nLine;
-    return m_sLine;
+    m_Line = {m_File.NextLine(), m_Line.nNumber + 1};
+    return m_Line.sText;
   }
 
   /// The next line that has a character; the file's last line, whatever it is, where none has.
@@ -32,14 +37,19 @@ class CListing {
   /// The same, a line of blanks counting as empty.
   std::string_view NextLineNotBlank();
 
-  /// Fails on the line in hand, which the log gets to see with its file and number (from 1).
-  [[noreturn]] void Refuse(std::int32_t nNumber) const;
+  /// The line in hand, the last one read.
+  const TLine& Line() const { return m_Line; }
+
+  /// Fails on a line, which the log gets to see with file and number.
+  [[noreturn]] void Refuse(std::int32_t nNumber, const TLine& Line) const;
+
+  /// Fails on the line in hand.
+  [[noreturn]] void Refuse(std::int32_t nNumber) const { Refuse(nNumber, m_Line); }
 
  private:
   std::string m_sPath;
   CTextFile m_File;
-  std::string_view m_sLine;
-  int m_nLine = 0;
+  TLine m_Line;
 };
 
 }  // namespace vrek

@@ -29,6 +29,7 @@ struct TVertex {
   double dChainage = 0;
   TLettered Place;  // C: height, P: gradient of the arriving grade, per cent
   TLettered Curve;  // T: tangent, F: versine, R: parameter; number 0: sharp
+  TLine Line;       // where it stands
 };
 
 TLettered CutLettered(std::string_view sField, const CListing& Listing) {
@@ -47,7 +48,7 @@ std::vector<TVertex> ReadVertices(CListing& Listing) {
     ST::SplitBySeparator(sLine, ',', nFields, aFields, true);
     if (nFields < 3) continue;
     aVertices.push_back({ST::LeadingNumber(aFields[1].sText), CutLettered(aFields[2].sText, Listing),
-                         CutLettered(aFields[3].sText, Listing)});
+                         CutLettered(aFields[3].sText, Listing), Listing.Line()});
   }
   return aVertices;
 }
@@ -92,10 +93,11 @@ double CurveParameter(const TLettered& Curve, double dSlopeChange) {
 }
 
 // A vertex with a curve gets the curve's parameter, and the curve's length in place of the distance.
-void AddCurves(const std::vector<TVertex>& aVertices, TVtElements& T) {
+void AddCurves(const std::vector<TVertex>& aVertices, const CListing& Listing, TVtElements& T) {
   for (std::size_t i = 1; i < T.size(); ++i) {
     if (aVertices[i].Curve.dNumber == 0) continue;
-    const double dSlopeChange = T[i].dSlope - Checked::At(T, static_cast<std::ptrdiff_t>(i) + 1).dSlope;
+    if (i + 1 == T.size()) Listing.Refuse(Error::nSubscript, aVertices[i].Line);  // no grade leaves it
+    const double dSlopeChange = T[i].dSlope - T[i + 1].dSlope;
     const double dKv = std::abs(CurveParameter(aVertices[i].Curve, dSlopeChange));
     T[i].dKv = dSlopeChange > 0 ? -dKv : dKv;
     T[i].dLength = std::abs(Checked::Finite(dSlopeChange * T[i].dKv));
@@ -150,7 +152,7 @@ bool ImportVtMarked(TVtElements& aVt, CListing& Listing) {
     if (sMarker == "*ALZ1") Listing.NextLine();
     const auto aVertices = ReadVertices(Listing);
     TVtElements T = PlaceVertices(aVertices);
-    AddCurves(aVertices, T);
+    AddCurves(aVertices, Listing, T);
     BuildElements(T, aVt);
     AppendClosingElement(aVt);
     return UpperBound(aVt) >= 1;

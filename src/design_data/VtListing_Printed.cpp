@@ -28,7 +28,7 @@ struct TBlocks {
 };
 
 struct TLines {
-  std::string_view sLine1, sLine3;
+  TLine Line1, Line3;
   bool bLast = false;  // no block comes behind this one
 };
 
@@ -54,23 +54,20 @@ bool BeginsWithFormFeed(std::string_view sLine) {
 
 // Reads the lines of a block; what the file hasn't got stays as it is. False when it ends behind a page end.
 bool ReadBlock(CListing& Listing, TLines& Lines) {
-  const auto Read = [&](std::string_view& sLine) {
-    if (!Listing.AtEnd()) sLine = Listing.NextLine();
-  };
-  std::string_view sLine2;
-  Read(Lines.sLine1);
-  if (Lines.sLine1.empty()) Listing.Refuse(Error::nInvalidCall);
-  Read(sLine2);
-  Read(Lines.sLine3);
-  Lines.bLast = Listing.AtEnd();
-  if (!Lines.bLast && BeginsWithFormFeed(Lines.sLine3)) {
-    if (!PassRuleLine(Listing)) return false;
+  TLine Line2;
+  for (TLine* pLine : {&Lines.Line1, &Line2, &Lines.Line3}) {
+    if (Listing.AtEnd()) break;
     Listing.NextLine();
-    Lines.sLine3 = Listing.NextLine();
-    const bool bEscape = Lines.sLine3.size() > 1 && Lines.sLine3[1] == cEscape;
-    Lines.bLast = BeginsWithFormFeed(Lines.sLine3) && (Listing.AtEnd() || bEscape);
+    *pLine = Listing.Line();
   }
-  if (Lines.sLine3.empty()) Listing.Refuse(Error::nInvalidCall);
+  Lines.bLast = Listing.AtEnd();
+  if (Lines.bLast || !BeginsWithFormFeed(Lines.Line3.sText)) return true;
+  if (!PassRuleLine(Listing)) return false;
+  Listing.NextLine();
+  const auto sLine3 = Listing.NextLine();
+  const bool bEscape = sLine3.size() > 1 && sLine3[1] == cEscape;
+  Lines.Line3 = Listing.Line();
+  Lines.bLast = BeginsWithFormFeed(sLine3) && (Listing.AtEnd() || bEscape);
   return true;
 }
 
@@ -89,8 +86,8 @@ void ForEachField(std::string_view sLine, TBody&& Body) {
   }
 }
 
-void TakeLine1(std::string_view sLine, TBlocks& B, TVtElements& aVt) {
-  ForEachField(sLine, [&](int n, std::string_view sField) {
+void TakeLine1(const TLine& Line, const CListing& Listing, TBlocks& B, TVtElements& aVt) {
+  ForEachField(Line, Listing, [&](int n, std::string_view sField) {
     const double dValue = n >= 2 && n <= 4 ? ST::LeadingNumber(sField) : 0;
     if (n == 2) {
       B.c1 = dValue;
@@ -103,8 +100,8 @@ void TakeLine1(std::string_view sLine, TBlocks& B, TVtElements& aVt) {
   });
 }
 
-void TakeLine3(std::string_view sLine, TBlocks& B, TVtElements& aVt) {
-  ForEachField(sLine, [&](int n, std::string_view sField) {
+void TakeLine3(const TLine& Line, const CListing& Listing, TBlocks& B, TVtElements& aVt) {
+  ForEachField(Line, Listing, [&](int n, std::string_view sField) {
     const double dValue = n >= 3 && n <= 7 ? ST::LeadingNumber(sField) : 0;
     if (n == 3) {
       B.c3 = dValue;
@@ -129,10 +126,11 @@ bool ImportVtPrinted(TVtElements& aVt, CListing& Listing) {
     Listing.NextLine();
     TBlocks Blocks;
     TLines Lines;
+    Lines.Line1.nNumber = Lines.Line3.nNumber = Listing.Line().nNumber;
     while (!Lines.bLast) {
       if (!ReadBlock(Listing, Lines)) return false;
-      TakeLine1(Lines.sLine1, Blocks, aVt);
-      TakeLine3(Lines.sLine3, Blocks, aVt);
+      TakeLine1(Lines.Line1, Listing, Blocks, aVt);
+      TakeLine3(Lines.Line3, Listing, Blocks, aVt);
     }
     AppendClosingElement(aVt);
     return UpperBound(aVt) >= 1;
