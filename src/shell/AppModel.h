@@ -27,7 +27,8 @@ CConverterInfo MakeConverterInfo(int nFormatsSupport);
 
 /// Kinds of input the wizard asks for, bits of nFilesToRead.
 namespace FilesToRead {
-inline constexpr int nHorizontal = 1, nVertical = 2, nCrossSections = 4, nStringLinesOfSlot1 = 8, nStringLinesOfSlot3 = 32;
+inline constexpr int nHorizontal = 1, nVertical = 2, nCrossSections = 4, nStringLinesOfSlot1 = 8,
+                     nStringLinesOfSlot3 = 32;
 }
 
 /// The details of the current conversion.
@@ -56,9 +57,9 @@ class clsAppModel {
   CConverterInfo ConverterInfo;
   CConversionInfo ConversionInfo;
   clsLanguageFile TokenFile;
-  IProgress* Progress = nullptr;                           ///< the wizard's panel once there is a wizard
-  std::function<void(std::string_view)> OnLogged;          ///< told of each log entry, for the batch command
-  std::function<std::string(int)> SelectedStringLine;      ///< name chosen for an alignment; unset: none
+  IProgress* Progress = nullptr;                       ///< the wizard's panel once there is a wizard
+  std::function<void(std::string_view)> OnLogged;      ///< told of each log entry, for the batch command
+  std::function<std::string(int)> SelectedStringLine;  ///< name chosen for an alignment; unset: none
 
  private:
   TPlatform m_Platform;
@@ -66,6 +67,9 @@ class clsAppModel {
 
 /// The object of the run. Before SetAppModel: failure 91.
 clsAppModel& AppModel();
+
+/// Whether there is one.
+bool HasAppModel();
 
 /// Puts an object in place (nullptr takes it away); gives the one before. The caller owns it.
 clsAppModel* SetAppModel(clsAppModel* pModel);

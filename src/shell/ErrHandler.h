@@ -26,7 +26,8 @@ inline void Trace(std::string_view /*sMessage*/, unsigned char /*nLevel*/ = 0) {
 /// The failure in flight, as a value; call only inside a catch block. Library exceptions become 7 or 5.
 Failure CurrentFailure();
 
-/// Runs a body that gives a value. On any failure: names sSource as the source, calls ErrHandler, gives Fallback.
+/// Runs a body that gives a value. On any failure: names sSource as the source, calls ErrHandler, gives
+/// Fallback.
 template <class TResult, class TBody>
 TResult Guard(std::string_view sSource, TResult Fallback, TBody&& Body) {
   try {

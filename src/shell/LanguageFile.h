@@ -1,5 +1,5 @@
-// clsLanguageFile: the table of display texts. A line "TOKEN = text" with exactly one "=" counts; "#" comments,
-// blank lines and everything else are passed over; \n in a text is a line break.
+// clsLanguageFile: the table of display texts. A line "TOKEN = text" with exactly one "=" counts; "#"
+// comments, blank lines and everything else are passed over; \n in a text is a line break.
 #pragma once
 
 #include <string>

@@ -1,0 +1,134 @@
+#include "platform/StagedFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <random>
+#include <string_view>
+
+#include "base/Failure.h"
+#include "platform/WriteFailure.h"
+
+namespace vrek {
+namespace {
+
+namespace fs = std::filesystem;
+
+enum ESlot : int { eFree, eTaken, eLive };
+
+/// Paths that a signal handler can remove: fixed memory, no locks.
+struct TSlot {
+  std::atomic<int> eState{eFree};
+  std::array<char, PATH_MAX> aPath{};
+};
+std::array<TSlot, 16> aSlots;
+static_assert(std::atomic<int>::is_always_lock_free);
+
+/// The number of the slot that holds the path now, or -1 when there is no room; the destructor removes the
+/// file all the same.
+int Register(const std::string& sPath) {
+  if (sPath.size() >= PATH_MAX) return -1;
+  for (std::size_t i = 0; i < aSlots.size(); ++i) {
+    int eExpected = eFree;
+    if (!aSlots[i].eState.compare_exchange_strong(eExpected, eTaken)) continue;
+    std::memcpy(aSlots[i].aPath.data(), sPath.c_str(), sPath.size() + 1);
+    aSlots[i].eState = eLive;
+    return static_cast<int>(i);
+  }
+  return -1;
+}
+
+void Unregister(int nSlot) {
+  if (nSlot >= 0) aSlots[static_cast<std::size_t>(nSlot)].eState = eFree;
+}
+
+/// Of the target's name, so that a name of the greatest length leaves room for what is put round it.
+constexpr std::size_t nNameBytes = 200;
+
+std::string RandomLetters() {
+  constexpr std::string_view sLetters = "abcdefghijklmnopqrstuvwxyz0123456789";
+  std::random_device Random;
+  std::string sOut(6, ' ');
+  for (char& c : sOut) c = sLetters[Random() % sLetters.size()];
+  return sOut;
+}
+
+fs::path ResolvedTarget(const std::string& sTarget) {
+  if (sTarget.empty()) Raise(Error::nPathFileAccess);
+  std::error_code Ignored;
+  const fs::path Resolved = fs::canonical(sTarget, Ignored);
+  return Resolved.empty() ? fs::path(sTarget) : Resolved;
+}
+
+/// The permissions of a target that is there already, which must be a file that may be written; else 0.
+mode_t PermissionsOf(const std::string& sTarget) {
+  struct stat Status {};
+  if (::stat(sTarget.c_str(), &Status) != 0) return 0;
+  if (!S_ISREG(Status.st_mode)) Raise(Error::nPathFileAccess);
+  if (::access(sTarget.c_str(), W_OK) != 0) RaiseWriteFailure(errno);
+  return Status.st_mode & 07777;
+}
+
+/// Creates an empty file of a new name beside the target; gives its path.
+std::string CreateBeside(const fs::path& Target, mode_t nMode) {
+  for (int nTry = 0; nTry < 100; ++nTry) {
+    const std::string sName =
+        "." + Target.filename().string().substr(0, nNameBytes) + ".vrek-" + RandomLetters();
+    const std::string sPath = (Target.parent_path() / sName).string();
+    const int nFile = ::open(sPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (nFile < 0 && errno == EEXIST) continue;
+    if (nFile < 0) RaiseWriteFailure(errno);
+    if (nMode != 0) ::fchmod(nFile, nMode);
+    ::close(nFile);
+    return sPath;
+  }
+  Raise(Error::nPathFileAccess);
+}
+
+/// Waits until the disk has what was written to a path. A folder that can't be synchronised is no failure.
+void Synchronise(const std::string& sPath, bool bMustWork) {
+  const int nFile = ::open(sPath.c_str(), O_RDONLY | O_CLOEXEC);
+  if (nFile < 0) return;
+  const int nResult = ::fsync(nFile);
+  const int nErrno = errno;
+  ::close(nFile);
+  if (nResult != 0 && bMustWork) RaiseWriteFailure(nErrno);
+}
+
+}  // namespace
+
+StagedFile::StagedFile(const std::string& sTarget) {
+  const fs::path Target = ResolvedTarget(sTarget);
+  m_sTarget = Target.string();
+  m_sPath = CreateBeside(Target, PermissionsOf(m_sTarget));
+  m_nSlot = Register(m_sPath);
+}
+
+StagedFile::~StagedFile() {
+  if (!m_sPath.empty()) ::unlink(m_sPath.c_str());
+  Unregister(m_nSlot);
+}
+
+void StagedFile::Commit() {
+  Synchronise(m_sPath, true);
+  if (::rename(m_sPath.c_str(), m_sTarget.c_str()) != 0) RaiseWriteFailure(errno);
+  m_sPath.clear();
+  const fs::path Folder = fs::path(m_sTarget).parent_path();
+  Synchronise(Folder.empty() ? "." : Folder.string(), false);
+}
+
+void RemoveLeftovers() noexcept {
+  for (TSlot& Slot : aSlots) {
+    if (Slot.eState == eLive) ::unlink(Slot.aPath.data());
+  }
+}
+
+}  // namespace vrek

@@ -1,0 +1,80 @@
+#include "platform/TextFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "base/Failure.h"
+#include "platform/Descriptor.h"
+
+namespace vrek {
+namespace {
+
+// A name that the system would cut short, or that is none at all, is no path.
+bool IsPath(const std::string& sPath) {
+  return !sPath.empty() && sPath.find('\0') == sPath.npos;
+}
+
+[[noreturn]] void RaiseOpenFailure(const std::string& sPath, int nErrno) {
+  if (nErrno == ENOENT) {
+    const auto Folder = std::filesystem::path(sPath).parent_path();
+    std::error_code Ignored;
+    if (Folder.empty() || std::filesystem::is_directory(Folder, Ignored)) Raise(Error::nFileNotFound);
+  }
+  Raise(FailureNumber(nErrno));
+}
+
+// Reads until the system says that there is no more: a size that changes or isn't known does no harm.
+std::string ReadToEnd(int nFile, std::size_t nExpected) {
+  std::string sBytes(nExpected + 1, '\0');
+  std::size_t nRead = 0;
+  for (;;) {
+    const auto n = ::read(nFile, sBytes.data() + nRead, sBytes.size() - nRead);
+    if (n == 0) break;
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) Raise(FailureNumber(errno));
+    nRead += static_cast<std::size_t>(n);
+    if (nRead == sBytes.size()) sBytes.resize(2 * nRead + 65536);
+  }
+  sBytes.resize(nRead);
+  return sBytes;
+}
+
+}  // namespace
+
+std::string ReadWholeFile(const std::string& sPath) {
+  if (!IsPath(sPath)) Raise(Error::nPathFileAccess);
+  const Descriptor File(::open(sPath.c_str(), O_RDONLY | O_CLOEXEC));
+  if (File.Get() < 0) RaiseOpenFailure(sPath, errno);
+  struct stat Status {};
+  const bool bSized = ::fstat(File.Get(), &Status) == 0 && S_ISREG(Status.st_mode) && Status.st_size > 0;
+  return ReadToEnd(File.Get(), bSized ? static_cast<std::size_t>(Status.st_size) : 0);
+}
+
+bool CanOpenForReading(const std::string& sPath) {
+  if (!IsPath(sPath)) return false;
+  // Without waiting for whoever would write to a pipe.
+  const Descriptor File(::open(sPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  struct stat Status {};
+  return File.Get() >= 0 && ::fstat(File.Get(), &Status) == 0 && !S_ISDIR(Status.st_mode);
+}
+
+CTextFile::CTextFile(const std::string& sPath) : m_sBytes(ReadWholeFile(sPath)) {
+  if (m_sBytes.find('\r') == m_sBytes.npos && m_sBytes.find('\n') != m_sBytes.npos) m_cLineEnd = '\n';
+}
+
+std::string_view CTextFile::NextLine() {
+  if (AtEnd()) Raise(Error::nInputPastEnd);
+  const std::string_view sRest = std::string_view(m_sBytes).substr(m_nPos);
+  const auto nLength = sRest.find(m_cLineEnd);
+  if (nLength == sRest.npos) {
+    m_nPos = m_sBytes.size();
+    return sRest;
+  }
+  const bool bCrLf = m_cLineEnd == '\r' && nLength + 1 < sRest.size() && sRest[nLength + 1] == '\n';
+  m_nPos += nLength + (bCrLf ? 2 : 1);
+  return sRest.substr(0, nLength);
+}
+
+}  // namespace vrek
