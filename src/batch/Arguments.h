@@ -1,0 +1,32 @@
+// The options of the batch command.
+#pragma once
+
+#include <iosfwd>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "batch/Job.h"
+
+namespace CLI {
+class App;
+}
+
+namespace vrek::batch {
+
+/// What the command line asks for.
+struct TArguments {
+  bool bCheckOnly = false;
+  bool bJson = false;
+  bool bQuiet = false;
+  bool bManyJobs = false;  ///< jobs came from job files: more than one may be there
+  std::vector<TJob> aJobs;
+};
+
+/// Reads the command line. No value: there is nothing to run, and nStatus is the exit status (help and
+/// version were printed to Out, a usage fault was told on Err).
+std::optional<TArguments> ReadArguments(int argc, const char* const* argv, std::ostream& Out,
+                                        std::ostream& Err, int& nStatus);
+
+}  // namespace vrek::batch

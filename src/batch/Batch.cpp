@@ -1,0 +1,68 @@
+#include "batch/Batch.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <ostream>
+
+#include "base/Configuration.h"
+#include "batch/Arguments.h"
+#include "batch/Conversion.h"
+#include "batch/JobFile.h"
+#include "batch/OutcomeJson.h"
+
+namespace vrek::batch {
+namespace {
+
+// "PAGE1@Vt rasante: refused" and, indented, the report.
+void TellFiles(const TOutcome& Outcome, std::ostream& Err) {
+  for (const auto& File : Outcome.aFiles) {
+    if (File.nMark != 2) continue;
+    Err << "refused: " << File.sName << " (" << File.sKey << ")\n";
+    std::string sReport = File.sReport;
+    std::erase(sReport, '\r');
+    if (!sReport.empty()) Err << sReport << "\n";
+  }
+}
+
+void Tell(const TOutcome& Outcome, bool bCheckOnly, std::ostream& Err) {
+  for (const auto& Message : Outcome.aMessages) {
+    std::string sText = Message.sText;
+    std::erase(sText, '\r');
+    if (Message.bBox) Err << sText << "\n";
+  }
+  if (!Outcome.bValid) Err << "a file is missing or can't be opened: page,slot " << Outcome.sFault << "\n";
+  TellFiles(Outcome, Err);
+  if (Outcome.bExported) Err << "written: " << Outcome.sOutput << "\n";
+  if (bCheckOnly && Outcome.eStatus == eConverted) Err << "all files are good\n";
+  if (Outcome.eStatus == eNotWritten) Err << "could not be written whole: " << Outcome.sOutput << "\n";
+}
+
+}  // namespace
+
+int RunBatch(int argc, const char* const* argv, std::ostream& Out, std::ostream& Err,
+             const std::string& sProgramDirectory) {
+  int nStatus = eConverted;
+  const auto Arguments = ReadArguments(argc, argv, Out, Err, nStatus);
+  if (!Arguments) return nStatus;
+  TConversionOptions Options;
+  Options.bCheckOnly = Arguments->bCheckOnly;
+  Options.bProgress = !Arguments->bQuiet && isatty(STDERR_FILENO) != 0;
+  Options.sLanguageFile = Configuration::sLanguageFile;
+  Options.sProgramDirectory = sProgramDirectory;
+  std::vector<TOutcome> aOutcomes;
+  for (const auto& Job : Arguments->aJobs) {
+    try {
+      aOutcomes.push_back(RunJob(Job, Options));
+      nStatus = std::max<int>(nStatus, aOutcomes.back().eStatus);
+      if (!Arguments->bQuiet) Tell(aOutcomes.back(), Options.bCheckOnly, Err);
+    } catch (const UsageError& Error) {
+      Err << "vrek-batch: " << Error.what() << "\n";
+      nStatus = std::max<int>(nStatus, eUsage);
+    }
+  }
+  if (Arguments->bJson) Out << OutcomesAsJson(aOutcomes, Arguments->bManyJobs) << std::flush;
+  return nStatus;
+}
+
+}  // namespace vrek::batch

@@ -1,0 +1,213 @@
+#include "batch/Conversion.h"
+
+#include <algorithm>
+
+#include "batch/BatchPlatform.h"
+#include "batch/JobFile.h"
+#include "checks/CAligmentCheck.h"
+#include "landxml/CLandXML.h"
+#include "shell/AppModel.h"
+#include "shell/CommandLine.h"
+#include "shell/ErrHandler.h"
+#include "wizard/frmWizard.h"
+
+namespace vrek::batch {
+namespace {
+
+// The application object of one job, in place for as long as this lives.
+class CAppScope {
+ public:
+  explicit CAppScope(TPlatform Platform) : m_Model(Platform), m_pBefore(SetAppModel(&m_Model)) {}
+  CAppScope(const CAppScope&) = delete;
+  ~CAppScope() { SetAppModel(m_pBefore); }
+  clsAppModel& Model() { return m_Model; }
+
+ private:
+  clsAppModel m_Model;
+  clsAppModel* m_pBefore;
+};
+
+class CConversion {
+ public:
+  CConversion(const TJob& Job, const TConversionOptions& Options)
+      : m_Job(Job),
+        m_Options(Options),
+        m_Platform([this](std::string_view sText, EIcon eIcon) { AddBox(sText, eIcon); },
+                   Options.sProgramDirectory, Options.bProgress),
+        m_App(m_Platform.Parts()) {}
+
+  TOutcome Run();
+
+ private:
+  void Start();
+  void ChooseJob();
+  bool ChooseFiles();
+  void TypeSlots(const TAligmentFiles& Files);
+  void TypePreferences();
+  void TypeExport();
+  void Export();
+  void AddBox(std::string_view sText, EIcon eIcon) {
+    m_Outcome.aMessages.push_back(
+        {true, eIcon == EIcon::eCritical ? "critical" : "warning", std::string(sText)});
+  }
+  void KeepFiles();
+  void KeepSummary();
+  void KeepLayers();
+  int Page() const { return m_Window.CurrentPage(); }
+
+  const TJob& m_Job;
+  const TConversionOptions& m_Options;
+  TOutcome m_Outcome;
+  BatchPlatform m_Platform;
+  CAppScope m_App;
+  frmWizard m_Window;
+};
+
+void CConversion::Start() {
+  auto& Model = m_App.Model();
+  InitFormats(m_Job.nFormats.value_or(Configuration::nFormatsSupport));
+  Model.OnLogged = [this](std::string_view sText) {
+    m_Outcome.aMessages.push_back({false, "", std::string(sText)});
+  };
+  Model.XmlFileToExport = m_Job.sOutput;
+  Model.ConversionInfo.sJobName = m_Job.sName;
+  Model.ConversionInfo.sCreator = m_Job.sCreator;
+  if (!Model.TokenFile.ReadFile(m_Options.sLanguageFile)) {
+    throw UsageError("the language file " + m_Options.sLanguageFile + " isn't beside the program");
+  }
+  m_Platform.Events.Watch(&m_Window.ctlProgress);
+  m_Window.Load();
+}
+
+void CConversion::ChooseJob() {
+  const auto nJob = static_cast<std::size_t>(m_Job.nJob);
+  if (Page() == ePageJob) {
+    m_Window.ctlJobType.SetJobType(m_Job.nJob);
+    if (m_Window.ctlJobType.optDesign[nJob].Value) m_Window.cmdNext_Click();
+  }
+  if (Page() != ePageFiles || m_Window.ctlJobType.JobType() != m_Job.nJob) {
+    throw UsageError(std::string("the job \"") + aJobNames[nJob] + "\" isn't on offer with formats " +
+                     std::to_string(FormatsSupport()) +
+                     "; give --formats (1 road, 2 tunnel, 4 rail, or their sum)");
+  }
+}
+
+void CConversion::TypeSlots(const TAligmentFiles& Files) {
+  auto& aSlots = m_Window.ctlFiles.ctlSelectFile;
+  const std::string* aPaths[] = {&Files.sHorizontal, &Files.sVertical, &Files.sThird, &Files.sCant};
+  for (std::size_t n = 0; n < 4; ++n) {
+    if (!aPaths[n]->empty()) aSlots[n].txtFileName_Change(*aPaths[n]);
+    if (n != 1 || !Files.bVerticalOption) continue;
+    aSlots[1].chkFile_Click(true);
+    if (aSlots[1].chkOption.Visible) aSlots[1].chkOption_Click(true);
+  }
+}
+
+bool CConversion::ChooseFiles() {
+  auto& Files = m_Window.ctlFiles;
+  for (int nPage = 1; nPage <= Files.PagesTot(); ++nPage) {
+    Files.ShowPage(nPage);
+    TypeSlots(m_Job.aFiles[static_cast<std::size_t>(nPage - 1)]);
+  }
+  m_Window.cmdNext_Click();
+  if (Page() != ePageFiles) return true;
+  m_Outcome.sFault = std::to_string(Files.FocusPage) + "," + std::to_string(Files.FocusFile);
+  return false;
+}
+
+void CConversion::TypePreferences() {
+  auto& aBoxes = m_Window.ctlPreferences.ctlTolerance;
+  const std::optional<std::string>* aTexts[] = {&m_Job.sToleranceHz, &m_Job.sToleranceVt};
+  for (std::size_t n = 0; n < 2; ++n) {
+    if (*aTexts[n] && !aBoxes[n].txtNumber_Change(**aTexts[n])) {
+      throw UsageError("the tolerance \"" + **aTexts[n] + "\" is no number");
+    }
+  }
+}
+
+void CConversion::TypeExport() {
+  auto& PageShown = m_Window.ctlExporting;
+  if (m_Job.sFrom) PageShown.txtChainage[0].Text = *m_Job.sFrom;
+  if (m_Job.sTo) PageShown.txtChainage[1].Text = *m_Job.sTo;
+  if (!m_Job.aLayers) return;
+  auto& aItems = PageShown.lstLayers.Items;
+  for (std::size_t n = 0; n < aItems.size(); ++n) {
+    const auto& aNames = *m_Job.aLayers;
+    const bool bWanted = std::find(aNames.begin(), aNames.end(), aItems[n].Text) != aNames.end();
+    PageShown.lstLayers_ItemCheck(static_cast<int>(n), bWanted);
+  }
+}
+
+void CConversion::Export() {
+  TypeExport();
+  KeepLayers();
+  m_Window.cmdNext_Click();
+  if (Page() != ePageResult) {
+    if (!CLandXML::WroteWhole()) m_Outcome.eStatus = eNotWritten;
+    return;
+  }
+  m_Outcome.eStatus = eNotWritten;
+  if (!CLandXML::WroteWhole()) return;
+  m_Outcome.bExported = Guard("Commit", false, [&] {
+    m_Platform.Output.Commit();
+    return true;
+  });
+  if (!m_Outcome.bExported) return;
+  m_Outcome.eStatus = eConverted;
+  KeepSummary();
+}
+
+TOutcome CConversion::Run() {
+  m_Outcome.sJob = aJobNames[static_cast<std::size_t>(m_Job.nJob)];
+  m_Outcome.sOutput = m_Job.sOutput;
+  Start();
+  ChooseJob();
+  m_Outcome.bValid = ChooseFiles();
+  if (!m_Outcome.bValid) return m_Outcome;
+  TypePreferences();
+  m_Window.cmdNext_Click();
+  KeepFiles();
+  m_Outcome.bImported = m_Window.ctlImporting.IsAllOk();
+  if (m_Options.bCheckOnly) {
+    if (m_Outcome.bImported) m_Outcome.eStatus = eConverted;
+    return m_Outcome;
+  }
+  m_Window.cmdNext_Click();
+  if (Page() == ePageExporting) Export();
+  return m_Outcome;
+}
+
+void CConversion::KeepFiles() {
+  for (const auto& Node : m_Window.ctlImporting.trFiles) {
+    TFileResult File{Node.sKey, Node.sText, static_cast<int>(Node.eImage), {}};
+    if (Node.eImage == EImage::eFailure) File.sReport = CAligmentCheck::GetReportText(Node.sText, Node.sKey);
+    m_Outcome.aFiles.push_back(std::move(File));
+  }
+}
+
+void CConversion::KeepLayers() {
+  for (const auto& Item : m_Window.ctlExporting.lstLayers.Items) {
+    m_Outcome.aLayers.push_back({Item.Text, Item.Checked});
+  }
+}
+
+void CConversion::KeepSummary() {
+  const auto& Result = m_Window.ctlResult;
+  for (int nPage = 1; nPage <= Result.PagesTot(); ++nPage) {
+    TPageResult PageResult{nPage, Result.GetTitle(nPage), {}};
+    for (int nRow = 1; nRow <= 6; ++nRow) {
+      const auto sLabel = Result.GetDescription(nPage, nRow);
+      if (sLabel.empty()) continue;
+      PageResult.aRows.push_back({nRow, sLabel, Result.GetValue(nPage, nRow), Result.GetUnit(nPage, nRow)});
+    }
+    if (!PageResult.aRows.empty()) m_Outcome.aSummary.push_back(std::move(PageResult));
+  }
+}
+
+}  // namespace
+
+TOutcome RunJob(const TJob& Job, const TConversionOptions& Options) {
+  return CConversion(Job, Options).Run();
+}
+
+}  // namespace vrek::batch

@@ -1,0 +1,21 @@
+// Job files: TOML. Paths are relative to the job file.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+#include "batch/Job.h"
+
+namespace vrek::batch {
+
+/// What is wrong with a job file or the options, in words for the person who wrote them.
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Reads a job file. A file that can't be read, a line that isn't TOML, an unknown or missing key or a value
+/// of the wrong kind: UsageError that names file, line and key.
+TJob ReadJobFile(const std::string& sPath);
+
+}  // namespace vrek::batch
