@@ -6,14 +6,9 @@
 
 #include "platform/Progress.h"
 #include "records/CrossSections.h"
+#include "records/SurfacePoints.h"
 
 namespace vrek::CCrSec {
-
-/// Removes each point that equals the one just before it (offset and height within 0.0001). Gives how many.
-int DeleteDuplicatedpoints(std::vector<TCrPoint>& aPoints);
-
-/// Gives each point of a layer's first surface a fresh code.
-void NameSurface(TCrSurface& Surface, TCrLayer& Layer);
 
 /// Gives every point of the first surface of each layer a fresh code, before any rule runs.
 void NameFirstSurfaces(TCrData& Cr);
