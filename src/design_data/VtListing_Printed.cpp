@@ -72,9 +72,11 @@ bool ReadBlock(CListing& Listing, TLines& Lines) {
 }
 
 // Calls a body with each field and its number, from 1. Fields stand between runs of blanks and commas; one
-// that starts at the line's last character isn't seen.
+// that starts at the line's last character isn't seen, and a line without a character can't be walked.
 template <class TBody>
-void ForEachField(std::string_view sLine, TBody&& Body) {
+void ForEachField(const TLine& Line, const CListing& Listing, TBody&& Body) {
+  const std::string_view sLine = Line.sText;
+  if (sLine.empty()) Listing.Refuse(Error::nInvalidCall, Line);
   constexpr std::string_view sSeparators = " ,";
   int n = 0;
   for (std::size_t i = 0;;) {
