@@ -1,8 +1,7 @@
 #include "batch/Arguments.h"
 
 #include <CLI/CLI.hpp>
-#include <functional>
-#include <iostream>
+#include <ostream>
 
 #include "base/Configuration.h"
 #include "base/ST.h"
@@ -19,15 +18,9 @@ struct TConvertOptions {
   bool bFromCentre = false, bLeftFromRight = false, bRightFromLeft = false;
 };
 
-void AddOptionalText(CLI::App& App, const std::string& sName, std::optional<std::string>& sValue,
-                     const std::string& sHelp, const std::string& sType) {
-  App.add_option_function<std::string>(
-         sName, [&sValue](const std::string& sText) { sValue = sText; }, sHelp)
-      ->type_name(sType);
-}
-
 // A number as a person would type it; the text is kept as given.
-void AddNumber(CLI::App& App, const std::string& sName, std::optional<std::string>& sValue, const std::string& sHelp) {
+void AddNumber(CLI::App& App, const std::string& sName, std::optional<std::string>& sValue,
+               const std::string& sHelp) {
   App.add_option_function<std::string>(
          sName, [&sValue](const std::string& sText) { sValue = sText; }, sHelp)
       ->type_name("METRES")
@@ -44,8 +37,10 @@ void AddCommon(CLI::App& App, TConvertOptions& Options, bool bCheckOnly) {
   auto& Job = Options.Job;
   auto* pOutput = App.add_option("-o,--output", Job.sOutput, "the LandXML file to write")->type_name("FILE");
   if (!bCheckOnly) pOutput->required();
-  App.add_option("-n,--name", Job.sName, "name of the data; the output file's name without it")->type_name("TEXT");
-  App.add_option("--creator", Job.sCreator, "author of the document; the user's name without it")->type_name("TEXT");
+  App.add_option("-n,--name", Job.sName, "name of the data; the output file's name without it")
+      ->type_name("TEXT");
+  App.add_option("--creator", Job.sCreator, "author of the document; the user's name without it")
+      ->type_name("TEXT");
   AddNumber(App, "--tolerance-hz", Job.sToleranceHz, "tolerance of the plan's check (0.010)");
   AddNumber(App, "--tolerance-vt", Job.sToleranceVt, "tolerance of the profile's check (0.010)");
   AddNumber(App, "--from", Job.sFrom, "first chainage");
@@ -114,10 +109,12 @@ struct TCommands {
 TCommands AddCommands(CLI::App& App, TConvertOptions& Options, bool bCheckOnly) {
   constexpr const char* aHelp[] = {"a road with its cross-sections", "a tunnel with its profiles",
                                    "a single track with its cant table", "a double track"};
-  constexpr std::array<void (*)(CLI::App&, TConvertOptions&), 4> aAdd = {AddRoad, AddTunnel, AddRail, AddDouble};
+  constexpr std::array<void (*)(CLI::App&, TConvertOptions&), 4> aAdd = {AddRoad, AddTunnel, AddRail,
+                                                                         AddDouble};
   TCommands Commands;
   for (std::size_t n = 0; n < 4; ++n) {
-    auto* pCommand = App.add_subcommand(aJobNames[n], std::string(bCheckOnly ? "check " : "convert ") + aHelp[n]);
+    auto* pCommand =
+        App.add_subcommand(aJobNames[n], std::string(bCheckOnly ? "check " : "convert ") + aHelp[n]);
     aAdd[n](*pCommand, Options);
     AddCommon(*pCommand, Options, bCheckOnly);
     Commands.aJobs.push_back(pCommand);
@@ -145,8 +142,8 @@ void TakeJobs(const TCommands& Commands, const TConvertOptions& Options, TArgume
 
 }  // namespace
 
-std::optional<TArguments> ReadArguments(int argc, const char* const* argv, std::ostream& Out, std::ostream& Err,
-                                        int& nStatus) {
+std::optional<TArguments> ReadArguments(int argc, const char* const* argv, std::ostream& Out,
+                                        std::ostream& Err, int& nStatus) {
   TArguments Arguments;
   TConvertOptions Options, CheckOptions;
   CLI::App App("Converts road, rail and tunnel listings to LandXML 1.0.", "vrek-batch");
@@ -163,7 +160,8 @@ std::optional<TArguments> ReadArguments(int argc, const char* const* argv, std::
   try {
     App.parse(argc, argv);
     Arguments.bCheckOnly = pCheck->parsed();
-    TakeJobs(Arguments.bCheckOnly ? Check : Convert, Arguments.bCheckOnly ? CheckOptions : Options, Arguments);
+    TakeJobs(Arguments.bCheckOnly ? Check : Convert, Arguments.bCheckOnly ? CheckOptions : Options,
+             Arguments);
     return Arguments;
   } catch (const CLI::ParseError& Error) {
     nStatus = App.exit(Error, Out, Err) == 0 ? eConverted : eUsage;

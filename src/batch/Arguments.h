@@ -24,9 +24,9 @@ struct TArguments {
   std::vector<TJob> aJobs;
 };
 
-/// Reads the command line. No value: there is nothing to run, and nStatus is the exit status (help and version were
-/// printed to Out, a usage fault was told on Err).
-std::optional<TArguments> ReadArguments(int argc, const char* const* argv, std::ostream& Out, std::ostream& Err,
-                                        int& nStatus);
+/// Reads the command line. No value: there is nothing to run, and nStatus is the exit status (help and
+/// version were printed to Out, a usage fault was told on Err).
+std::optional<TArguments> ReadArguments(int argc, const char* const* argv, std::ostream& Out,
+                                        std::ostream& Err, int& nStatus);
 
 }  // namespace vrek::batch

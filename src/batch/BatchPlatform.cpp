@@ -15,7 +15,8 @@ void ProgressLine::ProcessMessages() {
   constexpr int nWidth = 30;
   std::string sLine;
   if (m_pPanel->ProgressBar.Visible) {
-    const auto nFilled = static_cast<std::size_t>(nWidth * m_pPanel->ProgressBar.Value / ctlProgress::dBarMax);
+    const auto nFilled =
+        static_cast<std::size_t>(nWidth * m_pPanel->ProgressBar.Value / ctlProgress::dBarMax);
     sLine = "[" + std::string(nFilled, '#') + std::string(nWidth - nFilled, ' ') + "] ";
   }
   // The bar moves in steps that can be seen; the chainage beside it would redraw the line for each section.

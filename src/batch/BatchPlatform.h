@@ -1,5 +1,5 @@
-// The surroundings of a batch conversion: nothing of what a person's wizard saved is read or changed, messages are
-// collected, and the document comes into its place only when it is whole.
+// The surroundings of a batch conversion: nothing of what a person's wizard saved is read or changed,
+// messages are collected, and the document comes into its place only when it is whole.
 #pragma once
 
 #include <string>
@@ -19,7 +19,8 @@ namespace vrek::batch {
 /// The environment of this process, with another program directory where one is given.
 class BatchEnvironment final : public IEnvironment {
  public:
-  explicit BatchEnvironment(std::string sProgramDirectory) : m_sProgramDirectory(std::move(sProgramDirectory)) {}
+  explicit BatchEnvironment(std::string sProgramDirectory)
+      : m_sProgramDirectory(std::move(sProgramDirectory)) {}
   std::string UserName() const override { return m_Posix.UserName(); }
   std::string ProgramDirectory() const override {
     return m_sProgramDirectory.empty() ? m_Posix.ProgramDirectory() : m_sProgramDirectory;

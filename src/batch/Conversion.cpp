@@ -32,8 +32,8 @@ class CConversion {
   CConversion(const TJob& Job, const TConversionOptions& Options)
       : m_Job(Job),
         m_Options(Options),
-        m_Platform([this](std::string_view sText, EIcon eIcon) { AddBox(sText, eIcon); }, Options.sProgramDirectory,
-                   Options.bProgress),
+        m_Platform([this](std::string_view sText, EIcon eIcon) { AddBox(sText, eIcon); },
+                   Options.sProgramDirectory, Options.bProgress),
         m_App(m_Platform.Parts()) {}
 
   TOutcome Run();
@@ -47,7 +47,8 @@ class CConversion {
   void TypeExport();
   void Export();
   void AddBox(std::string_view sText, EIcon eIcon) {
-    m_Outcome.aMessages.push_back({true, eIcon == EIcon::eCritical ? "critical" : "warning", std::string(sText)});
+    m_Outcome.aMessages.push_back(
+        {true, eIcon == EIcon::eCritical ? "critical" : "warning", std::string(sText)});
   }
   void KeepFiles();
   void KeepSummary();
@@ -65,7 +66,9 @@ class CConversion {
 void CConversion::Start() {
   auto& Model = m_App.Model();
   InitFormats(m_Job.nFormats.value_or(Configuration::nFormatsSupport));
-  Model.OnLogged = [this](std::string_view sText) { m_Outcome.aMessages.push_back({false, "", std::string(sText)}); };
+  Model.OnLogged = [this](std::string_view sText) {
+    m_Outcome.aMessages.push_back({false, "", std::string(sText)});
+  };
   Model.XmlFileToExport = m_Job.sOutput;
   Model.ConversionInfo.sJobName = m_Job.sName;
   Model.ConversionInfo.sCreator = m_Job.sCreator;
@@ -84,7 +87,8 @@ void CConversion::ChooseJob() {
   }
   if (Page() != ePageFiles || m_Window.ctlJobType.JobType() != m_Job.nJob) {
     throw UsageError(std::string("the job \"") + aJobNames[nJob] + "\" isn't on offer with formats " +
-                     std::to_string(FormatsSupport()) + "; give --formats (1 road, 2 tunnel, 4 rail, or their sum)");
+                     std::to_string(FormatsSupport()) +
+                     "; give --formats (1 road, 2 tunnel, 4 rail, or their sum)");
   }
 }
 
@@ -202,6 +206,8 @@ void CConversion::KeepSummary() {
 
 }  // namespace
 
-TOutcome RunJob(const TJob& Job, const TConversionOptions& Options) { return CConversion(Job, Options).Run(); }
+TOutcome RunJob(const TJob& Job, const TConversionOptions& Options) {
+  return CConversion(Job, Options).Run();
+}
 
 }  // namespace vrek::batch

@@ -53,13 +53,14 @@ struct TOutcome {
 };
 
 struct TConversionOptions {
-  bool bCheckOnly = false;     ///< import and check, write nothing
-  bool bProgress = false;      ///< draw a progress bar on stderr
-  std::string sLanguageFile;   ///< name of the language file in the program's directory
+  bool bCheckOnly = false;        ///< import and check, write nothing
+  bool bProgress = false;         ///< draw a progress bar on stderr
+  std::string sLanguageFile;      ///< name of the language file in the program's directory
   std::string sProgramDirectory;  ///< empty: that of the executable
 };
 
-/// Runs a job. Wrong usage (a job that isn't on offer, a tolerance that is no number, no language file): UsageError.
+/// Runs a job. Wrong usage (a job that isn't on offer, a tolerance that is no number, no language file):
+/// UsageError.
 TOutcome RunJob(const TJob& Job, const TConversionOptions& Options);
 
 }  // namespace vrek::batch

@@ -1,12 +1,12 @@
 #include "batch/JobFile.h"
 
+#include <toml++/toml.h>
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <filesystem>
 #include <initializer_list>
 #include <string_view>
-#include <toml++/toml.h>
 
 namespace vrek::batch {
 namespace {
@@ -41,7 +41,8 @@ class CReader {
       Fail(*pNode, "\"" + Name(sKey) + "\" must be a number");
     }
     char aText[400];
-    const auto End = std::to_chars(aText, aText + sizeof aText, pNode->as_floating_point()->get(), std::chars_format::fixed);
+    const auto End = std::to_chars(aText, aText + sizeof aText, pNode->as_floating_point()->get(),
+                                   std::chars_format::fixed);
     return std::string(aText, End.ptr);
   }
 
@@ -143,7 +144,8 @@ TJob ReadJob(const toml::table& Table, const std::string& sPath) {
   }
   Job.nJob = static_cast<int>(it - aJobNames.begin());
   if (Job.nJob == 3) {
-    Root.AllowOnly({"job", "output", "name", "creator", "formats", "tolerance", "export", "centre", "left", "right"});
+    Root.AllowOnly(
+        {"job", "output", "name", "creator", "formats", "tolerance", "export", "centre", "left", "right"});
   } else {
     Root.AllowOnly({"job", "output", "name", "creator", "formats", "tolerance", "export", "alignment"});
   }
@@ -170,12 +172,14 @@ TJob ReadJob(const toml::table& Table, const std::string& sPath) {
 
 TJob ReadJobFile(const std::string& sPath) {
   std::error_code Ignored;
-  if (std::filesystem::is_directory(sPath, Ignored)) throw UsageError(sPath + ": is a folder, not a job file");
+  if (std::filesystem::is_directory(sPath, Ignored))
+    throw UsageError(sPath + ": is a folder, not a job file");
   try {
     return ReadJob(toml::parse_file(sPath), sPath);
   } catch (const toml::parse_error& Error) {
     const auto nLine = Error.source().begin.line;
-    throw UsageError(sPath + (nLine > 0 ? ":" + std::to_string(nLine) : "") + ": " + std::string(Error.description()));
+    throw UsageError(sPath + (nLine > 0 ? ":" + std::to_string(nLine) : "") + ": " +
+                     std::string(Error.description()));
   }
 }
 

@@ -14,8 +14,8 @@ class UsageError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Reads a job file. A file that can't be read, a line that isn't TOML, an unknown or missing key or a value of the
-/// wrong kind: UsageError that names file, line and key.
+/// Reads a job file. A file that can't be read, a line that isn't TOML, an unknown or missing key or a value
+/// of the wrong kind: UsageError that names file, line and key.
 TJob ReadJobFile(const std::string& sPath);
 
 }  // namespace vrek::batch

@@ -3,4 +3,6 @@
 
 #include "batch/Batch.h"
 
-int main(int argc, char** argv) { return vrek::batch::RunBatch(argc, argv, std::cout, std::cerr); }
+int main(int argc, char** argv) {
+  return vrek::batch::RunBatch(argc, argv, std::cout, std::cerr);
+}

@@ -37,7 +37,8 @@ void AddReportFile(std::string_view sName, EFileKind nKind);
 void AddReportError(double dChainage, bool bError, double dX, double dY, double dZ, double dDistance,
                     std::string_view sDescription);
 
-/// Elements that don't meet within the tolerance (metres), and clothoids of no length. Gives the number of errors.
+/// Elements that don't meet within the tolerance (metres), and clothoids of no length. Gives the number of
+/// errors.
 int CheckHz(const THzElements& aHz, double dTolerance);
 /// Vertical curves that don't meet the next element within the tolerance. Straight grades aren't tested.
 int CheckVt(const TVtElements& aVt, double dTolerance);

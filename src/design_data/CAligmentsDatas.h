@@ -1,8 +1,8 @@
 // CAligmentsDatas: the one store of imported data, a table of alignments numbered from 1.
 //
-// A Get hands out a reference to what is stored, valid until the next change of the table: who changes the data
-// takes a copy. A Get on a part that isn't there reports failure 20000 and gives an empty part. A number outside
-// the table is a caller's error: failure 9.
+// A Get hands out a reference to what is stored, valid until the next change of the table: who changes the
+// data takes a copy. A Get on a part that isn't there reports failure 20000 and gives an empty part. A number
+// outside the table is a caller's error: failure 9.
 #pragma once
 
 #include <memory>

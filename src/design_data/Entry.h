@@ -1,6 +1,6 @@
-// Entry: from a listing's path to its data. The extension and the first line decide which reader a file goes to.
-// True when the reader got a usable result. A failure is reported and gives false; what was read up to then
-// stays in the out argument, which the caller gives empty.
+// Entry: from a listing's path to its data. The extension and the first line decide which reader a file goes
+// to. True when the reader got a usable result. A failure is reported and gives false; what was read up to
+// then stays in the out argument, which the caller gives empty.
 #pragma once
 
 #include <string>

@@ -1,6 +1,6 @@
-// Alg: places on an alignment. From a chainage to a point (Alg_Evaluation.cpp), from a chainage to its element
-// (Alg_LookUp.cpp), from a point back to chainage and offset (Alg_Projection.cpp).
-// Offsets: positive to the right of the alignment in the direction of the chainage.
+// Alg: places on an alignment. From a chainage to a point (Alg_Evaluation.cpp), from a chainage to its
+// element (Alg_LookUp.cpp), from a point back to chainage and offset (Alg_Projection.cpp). Offsets: positive
+// to the right of the alignment in the direction of the chainage.
 #pragma once
 
 #include "geometry/GM.h"
@@ -16,8 +16,8 @@ EElementKind GetElementKind(const THzElement& Element);
 /// A copy with its azimuth turned from gon into radians.
 THzElement InRadians(const THzElement& Element);
 
-/// Index of the last element that starts at or before a chainage, but at least 1; of several that start there,
-/// the first. With no element above index 0: the upper bound.
+/// Index of the last element that starts at or before a chainage, but at least 1; of several that start
+/// there, the first. With no element above index 0: the upper bound.
 int FindHzElement(double dChainage, const THzElements& aHz);
 int FindVtElement(double dChainage, const TVtElements& aVt);
 
@@ -41,8 +41,8 @@ double EndRadiusInAligment(const THzElements& aHz, int nElement);
 /// "GetCoordFromHzAligment" and give false; the point stays as it was.
 bool GetCoordFromHzAligment(const THzElements& aHz, double dChainage, THzPoint& Point);
 
-/// At which chainage and offset of Target does the point at a chainage of Source lie? True if a foot point lies
-/// on the target. Failures are reported with the source "ProjectChainToAnotherAligment" and give false.
+/// At which chainage and offset of Target does the point at a chainage of Source lie? True if a foot point
+/// lies on the target. Failures are reported with the source "ProjectChainToAnotherAligment" and give false.
 bool ProjectChainToAnotherAligment(double dChainage, const THzElements& aSource, const THzElements& aTarget,
                                    double& dOffset, double& dChainPjt);
 

@@ -13,7 +13,8 @@
 
 namespace vrek {
 
-/// What the point routines give, and the form of every point argument (there the azimuth isn't read unless said).
+/// What the point routines give, and the form of every point argument (there the azimuth isn't read unless
+/// said).
 struct THzPoint {
   double dX = 0;
   double dY = 0;
@@ -30,7 +31,7 @@ inline constexpr double dThreeHalvesPi = 4.71238898038469;
 inline constexpr double dTwoPiNormalize = 6.28318530717958;  ///< NormalizeAngle
 inline constexpr double dTwoPiAzimuth = 6.28318530717959;    ///< GetAzimuth
 inline constexpr double dGonToRadians = 0.015707963267949;
-inline constexpr double dInfiniteRadius = 0.001;             ///< magnitude that stands for an infinite start radius
+inline constexpr double dInfiniteRadius = 0.001;  ///< magnitude that stands for an infinite start radius
 
 /// Arcsine, radians; ArcSin(-1) is 3π/2. Magnitude above 1: failure 5.
 double ArcSin(double x);
@@ -68,9 +69,10 @@ double GetClothoidEndRadius(const THzElement& Clothoid);
 /// radians, dNextRadius signed. Gives the signed radius at the end, 0 for infinite.
 double ChooseClothoidEndRadius(const THzElement& Clothoid, double dNextAzimuth, double dNextRadius);
 
-/// Signed start radius of a clothoid, which no listing prints, from the azimuths (gon) at its start and end, the
-/// radii of its neighbours and its parameter A. Magnitude 0.001 for a start from a straight.
-double GetClothoidStartRadius(double dAzimuth1, double dAzimuth2, double dRadius1, double dRadius2, double dParameter);
+/// Signed start radius of a clothoid, which no listing prints, from the azimuths (gon) at its start and end,
+/// the radii of its neighbours and its parameter A. Magnitude 0.001 for a start from a straight.
+double GetClothoidStartRadius(double dAzimuth1, double dAzimuth2, double dRadius1, double dRadius2,
+                              double dParameter);
 
 /// Coordinates on the clothoid of parameter 1 where the tangent has turned by dTau radians: 50 terms of the
 /// Maclaurin series of the Fresnel integrals, x along the tangent at the origin.
@@ -83,8 +85,8 @@ THzPoint GetSpiralPI(const THzPoint& End, const THzElement& Spiral);
 /// LinePoint2's Y). Equal X of both: failure 11.
 THzPoint MirrorPoint(const THzPoint& LinePoint1, const THzPoint& LinePoint2, const THzPoint& Point);
 
-/// Height of a vertical alignment at a chainage. Beyond the end the last element goes on; before the start 0; an
-/// empty array 0. Carries on over any fault.
+/// Height of a vertical alignment at a chainage. Beyond the end the last element goes on; before the start 0;
+/// an empty array 0. Carries on over any fault.
 double GetHeightAtChainage(const TVtElements& aVt, double dChainage);
 
 /// Height at a distance from the element's start.
@@ -94,7 +96,9 @@ double GetHeightInElement(const TVtElement& Element, double dDistance);
 double GetHeightOnCircle(const TVtElement& Element, double dDistance);
 
 /// Start point of an element, without its azimuth.
-inline THzPoint StartOf(const THzElement& Element) { return {Element.dX, Element.dY, 0}; }
+inline THzPoint StartOf(const THzElement& Element) {
+  return {Element.dX, Element.dY, 0};
+}
 
 }  // namespace GM
 }  // namespace vrek

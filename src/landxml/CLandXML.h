@@ -1,5 +1,6 @@
-// CLandXML: the module through which every line of the output file passes. Lines end in CR LF; one tab for each
-// level; names from the user's data as UTF-8 (EncodeUtf8Text), everything else in the code page; no escaping.
+// CLandXML: the module through which every line of the output file passes. Lines end in CR LF; one tab for
+// each level; names from the user's data as UTF-8 (EncodeUtf8Text), everything else in the code page; no
+// escaping.
 //
 //   <LandXML ...>                          depth 0
 //   	<Application .../>                    1
@@ -46,19 +47,21 @@ bool TagCrossSectSurf(bool bClose, std::string_view sName);
 bool TagFeature(bool bClose, std::string_view sCode, std::string_view sValue);
 bool TagProperty(std::string_view sLabel, std::string_view sValue);
 
-/// Plan of an axis; limits in metres or dNotGiven. Gives the first chainage written and the end of the last element.
+/// Plan of an axis; limits in metres or dNotGiven. Gives the first chainage written and the end of the last
+/// element.
 bool TagCoordGeom(double& dOutStart, double& dOutEnd, const THzElements& aHz, double dChStart, double dChEnd);
 /// Plan of a stringline: blocks of at most 25 points.
-bool TagCoordGeomIrrLn(double& dOutStart, double& dOutEnd, const THzElements& aHz, double dChStart, double dChEnd);
+bool TagCoordGeomIrrLn(double& dOutStart, double& dOutEnd, const THzElements& aHz, double dChStart,
+                       double dChEnd);
 /// Profile of an axis with its curves.
-bool TagProfAlign(double& dOutStart, double& dOutEnd, std::string_view sName, const TVtElements& aVt, double dChStart,
-                  double dChEnd);
+bool TagProfAlign(double& dOutStart, double& dOutEnd, std::string_view sName, const TVtElements& aVt,
+                  double dChStart, double dChEnd);
 /// Profile of a stringline; leaves the output chainages as they were.
 bool TagProfAlignIrrLn(double& dOutStart, double& dOutEnd, std::string_view sName, const TVtElements& aVt,
                        double dChStart, double dChEnd);
 
-/// A name so that writing it through the code page puts its UTF-8 bytes into the file: UTF-8 in, UTF-8 out, each
-/// byte from 126 on become the character of that code-page value. No code-page value: "?".
+/// A name so that writing it through the code page puts its UTF-8 bytes into the file: UTF-8 in, UTF-8 out,
+/// each byte from 126 on become the character of that code-page value. No code-page value: "?".
 std::string EncodeUtf8Text(std::string_view sText);
 
 }  // namespace vrek::CLandXML

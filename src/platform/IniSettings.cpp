@@ -5,14 +5,13 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <cstdlib>
 
 #include "base/Failure.h"
+#include "platform/Descriptor.h"
 #include "platform/IniText.h"
 #include "platform/StagedFile.h"
 #include "platform/TextFile.h"
-#include "platform/WriteFailure.h"
 
 namespace vrek {
 namespace {
@@ -23,21 +22,15 @@ namespace fs = std::filesystem;
 class WriterLock {
  public:
   explicit WriterLock(const fs::path& Path)
-      : m_nFile(::open(Path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {
-    if (m_nFile < 0) RaiseWriteFailure(errno);
-    while (::flock(m_nFile, LOCK_EX) != 0) {
-      if (errno == EINTR) continue;
-      const int nErrno = errno;
-      ::close(m_nFile);
-      RaiseWriteFailure(nErrno);
+      : m_File(::open(Path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {
+    if (m_File.Get() < 0) Raise(FailureNumber(errno));
+    // A file system without locks fails otherwise, and is written to without one.
+    while (::flock(m_File.Get(), LOCK_EX) != 0 && errno == EINTR) {
     }
   }
-  ~WriterLock() { ::close(m_nFile); }
-  WriterLock(const WriterLock&) = delete;
-  WriterLock& operator=(const WriterLock&) = delete;
 
  private:
-  int m_nFile;
+  Descriptor m_File;
 };
 
 /// The bytes of the file; "" when there is none. One that is there but can't be read is a failure.
@@ -70,7 +63,7 @@ void IniSettings::Write(std::string_view sApplication, std::string_view sSection
   const fs::path File = FileOf(sApplication);
   std::error_code Trouble;
   fs::create_directories(File.parent_path(), Trouble);
-  if (Trouble) RaiseWriteFailure(Trouble.value());
+  if (Trouble) Raise(FailureNumber(Trouble.value()));
 
   const WriterLock Lock(File.parent_path() / "settings.lock");
   IniText Settings(PresentText(File));

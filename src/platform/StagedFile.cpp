@@ -2,11 +2,9 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <array>
 #include <atomic>
-#include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <cstring>
@@ -15,7 +13,7 @@
 #include <string_view>
 
 #include "base/Failure.h"
-#include "platform/WriteFailure.h"
+#include "platform/Descriptor.h"
 
 namespace vrek {
 namespace {
@@ -73,7 +71,7 @@ mode_t PermissionsOf(const std::string& sTarget) {
   struct stat Status {};
   if (::stat(sTarget.c_str(), &Status) != 0) return 0;
   if (!S_ISREG(Status.st_mode)) Raise(Error::nPathFileAccess);
-  if (::access(sTarget.c_str(), W_OK) != 0) RaiseWriteFailure(errno);
+  if (::access(sTarget.c_str(), W_OK) != 0) Raise(FailureNumber(errno));
   return Status.st_mode & 07777;
 }
 
@@ -83,11 +81,10 @@ std::string CreateBeside(const fs::path& Target, mode_t nMode) {
     const std::string sName =
         "." + Target.filename().string().substr(0, nNameBytes) + ".vrek-" + RandomLetters();
     const std::string sPath = (Target.parent_path() / sName).string();
-    const int nFile = ::open(sPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (nFile < 0 && errno == EEXIST) continue;
-    if (nFile < 0) RaiseWriteFailure(errno);
-    if (nMode != 0) ::fchmod(nFile, nMode);
-    ::close(nFile);
+    const Descriptor File(::open(sPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (File.Get() < 0 && errno == EEXIST) continue;
+    if (File.Get() < 0) Raise(FailureNumber(errno));
+    if (nMode != 0) ::fchmod(File.Get(), nMode);
     return sPath;
   }
   Raise(Error::nPathFileAccess);
@@ -95,12 +92,9 @@ std::string CreateBeside(const fs::path& Target, mode_t nMode) {
 
 /// Waits until the disk has what was written to a path. A folder that can't be synchronised is no failure.
 void Synchronise(const std::string& sPath, bool bMustWork) {
-  const int nFile = ::open(sPath.c_str(), O_RDONLY | O_CLOEXEC);
-  if (nFile < 0) return;
-  const int nResult = ::fsync(nFile);
-  const int nErrno = errno;
-  ::close(nFile);
-  if (nResult != 0 && bMustWork) RaiseWriteFailure(nErrno);
+  const Descriptor File(::open(sPath.c_str(), O_RDONLY | O_CLOEXEC));
+  const bool bWell = File.Get() >= 0 && ::fsync(File.Get()) == 0;
+  if (!bWell && bMustWork) Raise(FailureNumber(errno));
 }
 
 }  // namespace
@@ -119,7 +113,7 @@ StagedFile::~StagedFile() {
 
 void StagedFile::Commit() {
   Synchronise(m_sPath, true);
-  if (::rename(m_sPath.c_str(), m_sTarget.c_str()) != 0) RaiseWriteFailure(errno);
+  if (::rename(m_sPath.c_str(), m_sTarget.c_str()) != 0) Raise(FailureNumber(errno));
   m_sPath.clear();
   const fs::path Folder = fs::path(m_sTarget).parent_path();
   Synchronise(Folder.empty() ? "." : Folder.string(), false);

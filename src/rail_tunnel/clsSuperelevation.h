@@ -1,5 +1,5 @@
-// clsSuperelevation: the cant table of one track, and the rails worked out from it. Metres; cant is millimetres
-// in the file. Stations are taken to be in rising chainage.
+// clsSuperelevation: the cant table of one track, and the rails worked out from it. Metres; cant is
+// millimetres in the file. Stations are taken to be in rising chainage.
 #pragma once
 
 #include <string>
@@ -11,13 +11,21 @@
 namespace vrek {
 
 /// The point about which the track rotates.
-enum class ERotationPoint { eGivenByRails = 0, eInsideRail, eOutsideRail, eCenter, eLeftRail, eRightRail, ePlatformAxis };
+enum class ERotationPoint {
+  eGivenByRails = 0,
+  eInsideRail,
+  eOutsideRail,
+  eCenter,
+  eLeftRail,
+  eRightRail,
+  ePlatformAxis
+};
 
 struct TCantStation {
-  double dStation = 0;                ///< chainage
-  double dAppliedCant = 0;            ///< used unless eRotationPoint is eGivenByRails
-  double dAppliedCantLeft = 0;        ///< lift of the left rail, used with eGivenByRails
-  double dAppliedCantRight = 0;       ///< lift of the right rail, used with eGivenByRails
+  double dStation = 0;           ///< chainage
+  double dAppliedCant = 0;       ///< used unless eRotationPoint is eGivenByRails
+  double dAppliedCantLeft = 0;   ///< lift of the left rail, used with eGivenByRails
+  double dAppliedCantRight = 0;  ///< lift of the right rail, used with eGivenByRails
   ERotationPoint eRotationPoint = ERotationPoint::eGivenByRails;
   double dAppliedGauge = 0;
   double dAppliedSuperelevation = 0;  ///< base of the cant: the distance over which it is measured
@@ -37,16 +45,17 @@ class clsSuperelevation {
   /// Reads a cant file. Failures are reported with the source "ImportSuperelevationTable" and give false.
   bool Import(const std::string& sFilename);
 
-  /// Writes CrossSects with one two-point section at every chainage where something changes. Gives the first and
-  /// last chainage (0 when nothing was written). Limited only if both limits are given. sStringLine: name of the
-  /// stringline that stands for the axis, empty for none.
-  void ExportToLandXml(double& rChainageStart, double& rChainageEnd, std::string_view sCrossSectName, int nAligment,
-                       double dChStart = dNotGiven, double dChEnd = dNotGiven, std::string_view sStringLine = {}) const;
+  /// Writes CrossSects with one two-point section at every chainage where something changes. Gives the first
+  /// and last chainage (0 when nothing was written). Limited only if both limits are given. sStringLine: name
+  /// of the stringline that stands for the axis, empty for none.
+  void ExportToLandXml(double& rChainageStart, double& rChainageEnd, std::string_view sCrossSectName,
+                       int nAligment, double dChStart = dNotGiven, double dChEnd = dNotGiven,
+                       std::string_view sStringLine = {}) const;
 
-  /// Half distance between the rails and the height of each at a chainage; arguments of rows that set nothing stay
-  /// as they were. False before the table or on a failure (reported with the source "ComputeRails").
-  bool ComputeRails(double& r_dDist2CL, double& r_dHeightLeft, double& r_dHeightRight, int nAligment, double dChainage,
-                    std::string_view sStringLine = {}) const;
+  /// Half distance between the rails and the height of each at a chainage; arguments of rows that set nothing
+  /// stay as they were. False before the table or on a failure (reported with the source "ComputeRails").
+  bool ComputeRails(double& r_dDist2CL, double& r_dHeightLeft, double& r_dHeightRight, int nAligment,
+                    double dChainage, std::string_view sStringLine = {}) const;
 
   /// Moves a height from one track to the other over the plane of the cant. nAligment: 2 left, 3 right track.
   bool CalcHeightVtAligmentCoplane(int nAligment, double dChainage, double dOffset, double& dHeightCL,

@@ -1,4 +1,5 @@
-// clsTunnel: the profiles of a bore. Their text passes through to the output; only their chainages are looked at.
+// clsTunnel: the profiles of a bore. Their text passes through to the output; only their chainages are looked
+// at.
 #pragma once
 
 #include <string>

@@ -1,9 +1,7 @@
 #include "shell/ErrHandler.h"
 
 #include <fcntl.h>
-#include <unistd.h>
 
-#include <cerrno>
 #include <cstdio>
 #include <ctime>
 #include <stdexcept>
@@ -11,7 +9,7 @@
 
 #include "base/CodePage.h"
 #include "base/Configuration.h"
-#include "platform/WriteFailure.h"
+#include "platform/Descriptor.h"
 #include "shell/AppModel.h"
 #include "shell/Services.h"
 
@@ -75,12 +73,11 @@ std::string HeaderLine() {
 void AppendToLog(std::string_view sEntry) {
   const std::string sPath = GetTempDirectory() + std::string(Configuration::sLogFile);
   const std::string sBytes = CodePage::FromUtf8(sEntry);
-  const int nFile = ::open(sPath.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666);
-  if (nFile < 0) RaiseWriteFailure(errno);
-  const ssize_t nWritten = ::write(nFile, sBytes.data(), sBytes.size());
-  const int nErrno = nWritten < 0 ? errno : ENOSPC;
-  ::close(nFile);
-  if (nWritten != static_cast<ssize_t>(sBytes.size())) RaiseWriteFailure(nErrno);
+  const Descriptor File(::open(sPath.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666));
+  if (File.Get() < 0) Raise(FailureNumber(errno));
+  const ssize_t nWritten = ::write(File.Get(), sBytes.data(), sBytes.size());
+  if (nWritten < 0) Raise(FailureNumber(errno));
+  if (static_cast<std::size_t>(nWritten) != sBytes.size()) Raise(Error::nDiskFull);
 }
 
 void TellLogged(const std::string& sText) {

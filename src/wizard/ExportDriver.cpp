@@ -9,18 +9,27 @@
 namespace vrek {
 namespace {
 
-bool ReadsSlot1() { return (AppModel().ConversionInfo.nFilesToRead & FilesToRead::nStringLinesOfSlot1) != 0; }
-bool ReadsSlot3() { return (AppModel().ConversionInfo.nFilesToRead & FilesToRead::nStringLinesOfSlot3) != 0; }
+bool ReadsSlot1() {
+  return (AppModel().ConversionInfo.nFilesToRead & FilesToRead::nStringLinesOfSlot1) != 0;
+}
+bool ReadsSlot3() {
+  return (AppModel().ConversionInfo.nFilesToRead & FilesToRead::nStringLinesOfSlot3) != 0;
+}
 
 }  // namespace
 
 bool ExportDriver::ExportJob(int nJob) {
   switch (nJob) {
-    case eRoad: return ExportRoad();
-    case eTunnel: return ExportTunnel();
-    case eRailSingle: return ExportRailSingle();
-    case eRailDouble: return ExportRailDouble();
-    default: return false;
+    case eRoad:
+      return ExportRoad();
+    case eTunnel:
+      return ExportTunnel();
+    case eRailSingle:
+      return ExportRailSingle();
+    case eRailDouble:
+      return ExportRailDouble();
+    default:
+      return false;
   }
 }
 
@@ -75,7 +84,8 @@ bool ExportDriver::ExportRailDouble() {
     std::vector<std::pair<TLayer, std::string>> aLayers;
     for (const int nTrack : {2, 3}) {
       if (!m_Window.ctlFiles.IsSelected(nTrack, 1)) continue;
-      aLayers.emplace_back(LayerOfTrack(nTrack), m_Window.ctlImporting.GetText("PAGE" + std::to_string(nTrack)));
+      aLayers.emplace_back(LayerOfTrack(nTrack),
+                           m_Window.ctlImporting.GetText("PAGE" + std::to_string(nTrack)));
     }
     ExportLayers(aLayers);
     CLandXML::TagAlignments(true);

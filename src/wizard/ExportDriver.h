@@ -1,6 +1,6 @@
-// ExportDriver: what goes into the document for each job: which alignments, in which order, and what each one holds.
-// All data come from the store, the chainage limits and layers from the Exporting page; it feeds the progress panel
-// and the rows of the Result page.
+// ExportDriver: what goes into the document for each job: which alignments, in which order, and what each one
+// holds. All data come from the store, the chainage limits and layers from the Exporting page; it feeds the
+// progress panel and the rows of the Result page.
 //
 //   ExportDriver.cpp              the jobs
 //   ExportDriver_Aligment.cpp     one alignment
@@ -22,8 +22,8 @@ class ExportDriver {
  public:
   explicit ExportDriver(frmWizard& Window) : m_Window(Window) {}
 
-  /// Runs the routine of a job (0 to 3); another number writes nothing and gives false. Gives the result of the last
-  /// alignment written. Failures are reported with the routine's name as the source.
+  /// Runs the routine of a job (0 to 3); another number writes nothing and gives false. Gives the result of
+  /// the last alignment written. Failures are reported with the routine's name as the source.
   bool ExportJob(int nJob);
 
   bool ExportRoad();
@@ -34,9 +34,10 @@ class ExportDriver {
   /// One alignment with all its parts. A failure ends it: reported with the source "ExportAligment", false.
   bool ExportAligment(int nAligment);
 
-  /// One group of stringlines. nCentre: index of the centre line in aNames; aExcluded: indexes, first -1 for none.
-  static void ExportLayer(const std::vector<std::string>& aNames, std::string_view sLayerName, int nCentre, bool bSorted,
-                          const std::vector<int>& aExcluded);
+  /// One group of stringlines. nCentre: index of the centre line in aNames; aExcluded: indexes, first -1 for
+  /// none.
+  static void ExportLayer(const std::vector<std::string>& aNames, std::string_view sLayerName, int nCentre,
+                          bool bSorted, const std::vector<int>& aExcluded);
 
  private:
   struct TLayer {

@@ -13,8 +13,12 @@
 
 namespace vrek {
 
-double ExportDriver::ChStart() const { return m_Window.ctlExporting.ChainageStart(); }
-double ExportDriver::ChEnd() const { return m_Window.ctlExporting.ChainageEnd(); }
+double ExportDriver::ChStart() const {
+  return m_Window.ctlExporting.ChainageStart();
+}
+double ExportDriver::ChEnd() const {
+  return m_Window.ctlExporting.ChainageEnd();
+}
 
 void ExportDriver::SetRows(int nAligment, int nRow, double dStart, double dEnd) const {
   m_Window.ctlResult.SetValueInPage(nAligment, nRow, dStart);
@@ -69,7 +73,8 @@ void ExportDriver::ExportProfile(int nAligment) {
   if (sName.empty() && bOffered) sName = Files.GetName(nAligment, 1);
   if (!CLandXML::TagProfile(false)) return;
   double dStart = 0, dEnd = 0;
-  if (CLandXML::TagProfAlign(dStart, dEnd, sName, CAligmentsDatas::GetAligmentVt(nAligment), ChStart(), ChEnd())) {
+  if (CLandXML::TagProfAlign(dStart, dEnd, sName, CAligmentsDatas::GetAligmentVt(nAligment), ChStart(),
+                             ChEnd())) {
     SetRows(nAligment, 3, dStart, dEnd);
   }
   CLandXML::TagProfile(true);

@@ -1,5 +1,5 @@
-// The "QN Stringline Layers" behind the alignments: which stringlines belong together, which of them is the centre
-// line, and which are no lines of the surface.
+// The "QN Stringline Layers" behind the alignments: which stringlines belong together, which of them is the
+// centre line, and which are no lines of the surface.
 #include "design_data/CAligmentsDatas.h"
 #include "landxml/CLandXML.h"
 #include "shell/AppModel.h"
@@ -9,23 +9,28 @@
 namespace vrek {
 namespace {
 
-bool ReadsSlot1() { return (AppModel().ConversionInfo.nFilesToRead & FilesToRead::nStringLinesOfSlot1) != 0; }
+bool ReadsSlot1() {
+  return (AppModel().ConversionInfo.nFilesToRead & FilesToRead::nStringLinesOfSlot1) != 0;
+}
 
-std::string Or(std::string sText, std::string_view sFallback) { return sText.empty() ? std::string(sFallback) : sText; }
+std::string Or(std::string sText, std::string_view sFallback) {
+  return sText.empty() ? std::string(sFallback) : sText;
+}
 
 }  // namespace
 
 void ExportDriver::ExportLayers(const std::vector<std::pair<TLayer, std::string>>& aLayers) {
   if (!CLandXML::TagFeature(false, "QN Stringline Layers", "")) return;
-  for (const auto& [Layer, sName] : aLayers) ExportLayer(Layer.aNames, sName, Layer.nCentre, false, Layer.aExcluded);
+  for (const auto& [Layer, sName] : aLayers)
+    ExportLayer(Layer.aNames, sName, Layer.nCentre, false, Layer.aExcluded);
   CLandXML::TagFeature(true, "", "");
 }
 
 // <Feature code="QN Stringline Layer">E1,E3
 // 	<Property label="name" value="..."/> ... centreline, sorted, excluded
 // </Feature>
-void ExportDriver::ExportLayer(const std::vector<std::string>& aNames, std::string_view sLayerName, int nCentre,
-                               bool bSorted, const std::vector<int>& aExcluded) {
+void ExportDriver::ExportLayer(const std::vector<std::string>& aNames, std::string_view sLayerName,
+                               int nCentre, bool bSorted, const std::vector<int>& aExcluded) {
   std::string sNames;
   for (const auto& sName : aNames) {
     if (sName.empty()) continue;
@@ -80,10 +85,13 @@ ExportDriver::TLayer ExportDriver::LayerOfTrack(int nTrack) const {
   if (!RailsChosen(nTrack)) return {{Chosen.GetSelected(1, 1), Chosen.GetSelected(nTrack, 1)}, 1, {0, 1}};
   const bool bSelectors = Chosen.GetTotalToSelect(nTrack) == "3";
   const auto Rail = [&](int nFile) { return bSelectors ? Chosen.GetSelected(nTrack, nFile) : std::string(); };
-  return {{Or(Rail(2), sLeft), Chosen.GetSelected(nTrack, 1), Or(Rail(3), sRight), Chosen.GetSelected(1, 1)}, 1, {1, 3}};
+  return {{Or(Rail(2), sLeft), Chosen.GetSelected(nTrack, 1), Or(Rail(3), sRight), Chosen.GetSelected(1, 1)},
+          1,
+          {1, 3}};
 }
 
-// All stringlines that were written; around the axis where there is one, else around the line chosen as centre.
+// All stringlines that were written; around the axis where there is one, else around the line chosen as
+// centre.
 ExportDriver::TLayer ExportDriver::LayerOfRoad() const {
   TLayer Layer;
   const auto& StrLn = CAligmentsDatas::GetAligmentStrLn(1);

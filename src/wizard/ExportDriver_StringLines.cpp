@@ -1,5 +1,5 @@
-// Alignments that are stringlines: each one chosen becomes an Alignment of its own; the links of a chain stand in
-// the Alignment of their head.
+// Alignments that are stringlines: each one chosen becomes an Alignment of its own; the links of a chain
+// stand in the Alignment of their head.
 #include <algorithm>
 
 #include "base/Checked.h"
@@ -15,7 +15,8 @@ namespace {
 
 constexpr int nHeadOfChain = -1;
 
-// Where a chain ends: the last chainage of its last link. A chain that bites its own tail ends with the round.
+// Where a chain ends: the last chainage of its last link. A chain that bites its own tail ends with the
+// round.
 double EndOfChain(const TStringLines& StrLn, int nHead) {
   int i = nHead;
   for (int n = 0; n < StrLn.nCount; ++n) {

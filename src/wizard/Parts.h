@@ -1,5 +1,5 @@
-// The visible parts of a page as plain records: what a control shows, without a toolkit. A view renders them and
-// forwards what a person does to the handlers of the page control that owns them.
+// The visible parts of a page as plain records: what a control shows, without a toolkit. A view renders them
+// and forwards what a person does to the handlers of the page control that owns them.
 #pragma once
 
 #include <string>

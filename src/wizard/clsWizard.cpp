@@ -39,22 +39,32 @@ void clsWizard::Release() {
     const auto& Preferences = m_Window.ctlPreferences;
     SaveSetting("Preferences", "ToleranceHz", FormatReal(Preferences.ToleranceHz(), 3));
     SaveSetting("Preferences", "ToleranceVt", FormatReal(Preferences.ToleranceVt(), 3));
-    if (!Preferences.Version().empty()) SaveSetting(Configuration::sName, "DataVersion", Preferences.Version());
+    if (!Preferences.Version().empty())
+      SaveSetting(Configuration::sName, "DataVersion", Preferences.Version());
   });
 }
 
 bool clsWizard::IntroPage(int nPage) {
   Trace(">> clsWizard.IntroPage " + std::to_string(nPage));
   switch (nPage) {
-    case ePageJob: return IntroPageJobType();
-    case ePageFiles: return IntroPageFiles();
-    case ePageDetails: return IntroPageDetails();
-    case ePagePreferences: return IntroPagePreferences();
-    case ePageImporting: return IntroPageImporting();
-    case ePageExporting: return IntroPageExporting();
-    case ePageResult: return IntroPageResult();
-    case ePageSelectStrLn: return IntroPageSelectStrLn();
-    default: return false;
+    case ePageJob:
+      return IntroPageJobType();
+    case ePageFiles:
+      return IntroPageFiles();
+    case ePageDetails:
+      return IntroPageDetails();
+    case ePagePreferences:
+      return IntroPagePreferences();
+    case ePageImporting:
+      return IntroPageImporting();
+    case ePageExporting:
+      return IntroPageExporting();
+    case ePageResult:
+      return IntroPageResult();
+    case ePageSelectStrLn:
+      return IntroPageSelectStrLn();
+    default:
+      return false;
   }
 }
 
@@ -62,13 +72,20 @@ bool clsWizard::ExitPage(int nPage) {
   switch (nPage) {
     case ePageJob:
     case ePageDetails:
-    case ePagePreferences: return true;
-    case ePageFiles: return ExitPageFiles();
-    case ePageImporting: return ExitPageImporting();
-    case ePageExporting: return ExitPageExporting();
-    case ePageResult: return ExitPageResult();
-    case ePageSelectStrLn: return ExitPageSelectStrLn();
-    default: return false;
+    case ePagePreferences:
+      return true;
+    case ePageFiles:
+      return ExitPageFiles();
+    case ePageImporting:
+      return ExitPageImporting();
+    case ePageExporting:
+      return ExitPageExporting();
+    case ePageResult:
+      return ExitPageResult();
+    case ePageSelectStrLn:
+      return ExitPageSelectStrLn();
+    default:
+      return false;
   }
 }
 

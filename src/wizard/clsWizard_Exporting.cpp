@@ -13,7 +13,9 @@
 namespace vrek {
 namespace {
 
-bool ReadsStringLines(int nBits) { return (AppModel().ConversionInfo.nFilesToRead & nBits) != 0; }
+bool ReadsStringLines(int nBits) {
+  return (AppModel().ConversionInfo.nFilesToRead & nBits) != 0;
+}
 
 void SetRange(ctlExporting& Page, const THzElements& aHz) {
   const auto& Last = Checked::At(aHz, UpperBound(aHz));
@@ -24,7 +26,8 @@ void SetRange(ctlExporting& Page, const THzElements& aHz) {
 // The plan of the first alignment that has one; none at all is a fault of the subscript behind the table.
 const THzElements& FirstHz() {
   for (int nAligment = 1; nAligment <= 3; ++nAligment) {
-    if (CAligmentsDatas::GetAligmentType(nAligment) & AligmentType::nHz) return CAligmentsDatas::GetAligmentHz(nAligment);
+    if (CAligmentsDatas::GetAligmentType(nAligment) & AligmentType::nHz)
+      return CAligmentsDatas::GetAligmentHz(nAligment);
   }
   Raise(Error::nSubscript);
 }

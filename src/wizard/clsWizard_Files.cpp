@@ -13,7 +13,9 @@ constexpr std::string_view sFilterAlz = "(*.ALZ;*.RTF)|*.alz;*.rtf|(*.*)|*.*";
 constexpr std::string_view sFilterTrv = "(*.TRV;*.RTF)|*.trv;*.rtf|(*.*)|*.*";
 constexpr std::string_view sFilterXml = "LandXML(*.xml)|*.xml|(*.*)|*.*";
 
-std::string Token(std::string_view sToken) { return AppModel().GetToken(sToken); }
+std::string Token(std::string_view sToken) {
+  return AppModel().GetToken(sToken);
+}
 
 [[noreturn]] void RaiseFault(int nPage, int nFile) {
   Raise(Error::nFilesPage, std::to_string(nPage) + "," + std::to_string(nFile));
@@ -29,7 +31,9 @@ bool clsWizard::IntroPageFiles() {
   const auto sCantEditor = sDirectory + "TrackTableEditor.exe -l ";
   Files.DeleteAllPages();
   switch (nJob) {
-    case eRoad: Files.AddPage(Token("FR_FILES_ROAD")); break;
+    case eRoad:
+      Files.AddPage(Token("FR_FILES_ROAD"));
+      break;
     case eTunnel:
       Files.AddPage(Token("FR_FILES_TUNNEL"));
       Files.ConfigFile(1, 3, Token("LBL_FIL_TUNNEL"), sFilterXml, sDirectory + "BoreSectionEditor.exe -l ");
@@ -79,8 +83,9 @@ bool clsWizard::ValidateFiles() {
   } catch (const Failure& Fault) {
     const auto nComma = Fault.sDescription.find(',');
     if (Fault.nNumber == Error::nFilesPage && nComma != std::string::npos) {
-      m_Window.ctlFiles.SetFocusTo(static_cast<int>(ST::LeadingNumber(Fault.sDescription)),
-                                   static_cast<int>(ST::LeadingNumber(Fault.sDescription.substr(nComma + 1))));
+      m_Window.ctlFiles.SetFocusTo(
+          static_cast<int>(ST::LeadingNumber(Fault.sDescription)),
+          static_cast<int>(ST::LeadingNumber(Fault.sDescription.substr(nComma + 1))));
     }
     return false;
   }

@@ -1,5 +1,5 @@
-// The Importing page: reads and checks every selected file into the store, then generates the vertical alignments
-// that were asked for. All files are tried, so that the user sees every fault at once.
+// The Importing page: reads and checks every selected file into the store, then generates the vertical
+// alignments that were asked for. All files are tried, so that the user sees every fault at once.
 #include "checks/CAligmentCheck.h"
 #include "design_data/CAligmentsDatas.h"
 #include "design_data/Entry.h"
@@ -15,16 +15,20 @@ namespace {
 
 constexpr double dSampleStep = 0.5;  // metres between the samples of a generated vertical alignment
 
-std::string Root(int nPage) { return "PAGE" + std::to_string(nPage); }
+std::string Root(int nPage) {
+  return "PAGE" + std::to_string(nPage);
+}
 
-EImage Mark(bool bOk) { return bOk ? EImage::eSuccess : EImage::eFailure; }
+EImage Mark(bool bOk) {
+  return bOk ? EImage::eSuccess : EImage::eFailure;
+}
 
 }  // namespace
 
 // What lives as long as one run of the page.
 struct clsWizard::TImport {
-  TVtElements aVt;                 // the vertical array in hand: what the last vertical reader left
-  std::vector<bool> aSupOk;        // by page: the cant table was read and passed its check
+  TVtElements aVt;           // the vertical array in hand: what the last vertical reader left
+  std::vector<bool> aSupOk;  // by page: the cant table was read and passed its check
 };
 
 bool clsWizard::IntroPageImporting() {
@@ -50,7 +54,9 @@ bool clsWizard::IntroPageImporting() {
   return true;
 }
 
-bool clsWizard::ExitPageImporting() { return m_Window.ctlImporting.IsAllOk(); }
+bool clsWizard::ExitPageImporting() {
+  return m_Window.ctlImporting.IsAllOk();
+}
 
 void clsWizard::ImportPage(TImport& Import, int nPage) {
   const auto& Files = m_Window.ctlFiles;
@@ -135,13 +141,15 @@ void clsWizard::ImportCant(TImport& Import, int nPage) {
   Import.aSupOk[static_cast<std::size_t>(nPage)] = bOk;
 }
 
-void clsWizard::GenerateTrack(const TImport& Import, int nTarget, int nSource, bool bFromCentre, const char* sTittle) {
+void clsWizard::GenerateTrack(const TImport& Import, int nTarget, int nSource, bool bFromCentre,
+                              const char* sTittle) {
   auto& Progress = m_Window.ctlProgress;
   Progress.Reset();
   Progress.Tittle(sTittle);
   Progress.ShowCancel(true);
-  const bool bOk = Import.aSupOk.at(static_cast<std::size_t>(nTarget)) &&
-                   CAligmentsDatas::GenerateVtAligment(nTarget, nSource, nTarget, dSampleStep, Progress, bFromCentre);
+  const bool bOk =
+      Import.aSupOk.at(static_cast<std::size_t>(nTarget)) &&
+      CAligmentsDatas::GenerateVtAligment(nTarget, nSource, nTarget, dSampleStep, Progress, bFromCentre);
   m_Window.ctlImporting.SetImage(Root(nTarget), "Vt", Mark(bOk));
 }
 

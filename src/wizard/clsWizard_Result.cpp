@@ -44,7 +44,8 @@ void clsWizard::LayOutResultRows() {
     AddRows(Result, nPage, 1, Files.IsSelected(nPage, 1), PlanRows);
     AddRows(Result, nPage, 3, Files.IsSelected(nPage, 2) || Files.IsOptionSelected(1, 2), ProfileRows);
     const bool bOtherSide = nPage > 1 && Files.IsOptionSelected(5 - nPage, 2);
-    AddRows(Result, nPage, 5, Files.IsSelected(nPage, 3) || Files.IsSelected(nPage, 4) || bOtherSide, TrackRows);
+    AddRows(Result, nPage, 5, Files.IsSelected(nPage, 3) || Files.IsSelected(nPage, 4) || bOtherSide,
+            TrackRows);
   }
 }
 

@@ -8,7 +8,9 @@
 namespace vrek {
 namespace {
 
-std::string Token(std::string_view sToken) { return AppModel().GetToken(sToken); }
+std::string Token(std::string_view sToken) {
+  return AppModel().GetToken(sToken);
+}
 
 // Selectors of a track: its centre line, and where no cant table gives the rails these too.
 void ConfigTrack(ctlSelectStrLns& Page, const ctlFiles& Files, int nPage) {
@@ -20,7 +22,9 @@ void ConfigTrack(ctlSelectStrLns& Page, const ctlFiles& Files, int nPage) {
 }
 
 void LayOutDoubleTrack(ctlSelectStrLns& Page, const ctlFiles& Files) {
-  const auto Selectors = [&](int nPage) { return Files.IsSelected(nPage, 4) ? 1 : Files.IsSelected(nPage, 1) ? 3 : 0; };
+  const auto Selectors = [&](int nPage) {
+    return Files.IsSelected(nPage, 4) ? 1 : Files.IsSelected(nPage, 1) ? 3 : 0;
+  };
   Page.AddPage(Token("FR_SEL_TRACK_CENTERLN"), Files.IsSelected(1, 1) ? 1 : 0);
   Page.AddPage(Token("FR_SEL_TRK_LEFT"), Selectors(2));
   Page.AddPage(Token("FR_SEL_TRK_RIGHT"), Selectors(3));

@@ -12,7 +12,9 @@ void ctlDetails::UpdateText() {
   lblData[3].Caption = AppModel().GetToken("LBL_DET_VERSION");
 }
 
-void ctlDetails::ShowVersion(bool bShow) { lblData[3].Visible = cmbVersion.Visible = bShow; }
+void ctlDetails::ShowVersion(bool bShow) {
+  lblData[3].Visible = cmbVersion.Visible = bShow;
+}
 
 void ctlDetails::AddVersion(std::string_view sName) {
   cmbVersion.Items.push_back({std::string(sName)});

@@ -16,13 +16,22 @@ void ctlExporting::UpdateText() {
   cmdSelect[1].Caption = AppModel().GetToken("CMD_EXP_UNSELECT_ALL");
 }
 
-double ctlExporting::ChainageStart() const { return ST::ParseReal(txtChainage[0].Text); }
-void ctlExporting::SetChainageStart(double dValue) { txtChainage[0].Text = FormatReal(dValue, 3); }
-double ctlExporting::ChainageEnd() const { return ST::ParseReal(txtChainage[1].Text); }
-void ctlExporting::SetChainageEnd(double dValue) { txtChainage[1].Text = FormatReal(dValue, 3); }
+double ctlExporting::ChainageStart() const {
+  return ST::ParseReal(txtChainage[0].Text);
+}
+void ctlExporting::SetChainageStart(double dValue) {
+  txtChainage[0].Text = FormatReal(dValue, 3);
+}
+double ctlExporting::ChainageEnd() const {
+  return ST::ParseReal(txtChainage[1].Text);
+}
+void ctlExporting::SetChainageEnd(double dValue) {
+  txtChainage[1].Text = FormatReal(dValue, 3);
+}
 
 void ctlExporting::AddLayer(std::string_view sLayername, int lItemData) {
-  lstLayers.Items.push_back({std::string(sLayername), static_cast<int>(lstLayers.Items.size()), lItemData < 0});
+  lstLayers.Items.push_back(
+      {std::string(sLayername), static_cast<int>(lstLayers.Items.size()), lItemData < 0});
   if (lItemData < 0) return;
   // By text: a list may place its entries where it likes, and the first of a name takes the number.
   for (auto& Item : lstLayers.Items) {

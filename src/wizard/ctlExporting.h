@@ -14,7 +14,8 @@ class ctlExporting {
  public:
   void UpdateText();
 
-  /// Chainages in metres, read from the boxes (a comma counts as a point, no number as 0); set with 3 decimals.
+  /// Chainages in metres, read from the boxes (a comma counts as a point, no number as 0); set with 3
+  /// decimals.
   double ChainageStart() const;
   void SetChainageStart(double dValue);
   double ChainageEnd() const;

@@ -82,7 +82,8 @@ bool ctlFiles::IsSelected(int nPage, int nFile) const {
 
 bool ctlFiles::IsOptionSelected(int nPage, int nFile) const {
   const auto* pSlot = Slot(nPage, nFile);
-  return pSlot && !pSlot->sDescription.empty() && pSlot->bChecked && pSlot->bShowOption && pSlot->bOptionValue;
+  return pSlot && !pSlot->sDescription.empty() && pSlot->bChecked && pSlot->bShowOption &&
+         pSlot->bOptionValue;
 }
 
 std::string ctlFiles::GetFile(int nPage, int nFile) const {
@@ -144,7 +145,9 @@ void ctlFiles::ShowPage(int nPage) {
   ApplyCheckBoxRule();
 }
 
-void ctlFiles::cmdPage_Click(int nIndex) { ShowPage(nIndex == 0 ? m_nPage + 1 : m_nPage - 1); }
+void ctlFiles::cmdPage_Click(int nIndex) {
+  ShowPage(nIndex == 0 ? m_nPage + 1 : m_nPage - 1);
+}
 
 void ctlFiles::SlotUsed(int nIndex, ctlSelectFilename::EControl eControl) {
   if (m_bLoading) return;
@@ -181,8 +184,12 @@ void ctlFiles::RebuildEditCommand(int nIndex) {
   auto& Control = ctlSelectFile[static_cast<std::size_t>(nIndex)];
   const auto sDirectory = AppModel().Platform().pEnvironment->ProgramDirectory() + "/";
   switch (m_Job.JobType()) {
-    case eTunnel: Control.SetEditCmd(sDirectory + "BoreSectionEditor.exe -l"); break;
-    case eRailSingle: Control.SetEditCmd(sDirectory + "TrackTableEditor.exe -s -l"); break;
+    case eTunnel:
+      Control.SetEditCmd(sDirectory + "BoreSectionEditor.exe -l");
+      break;
+    case eRailSingle:
+      Control.SetEditCmd(sDirectory + "TrackTableEditor.exe -s -l");
+      break;
     case eRailDouble: {
       const auto Option = [&](int nPage) { return Slot(nPage, 2) && Slot(nPage, 2)->bOptionValue; };
       const bool bAnyOption = ctlSelectFile[1].OptionValue() || Option(2) || Option(3);
@@ -191,7 +198,8 @@ void ctlFiles::RebuildEditCommand(int nIndex) {
                          (bCentre ? " -c" : "") + " -l");
       break;
     }
-    default: break;
+    default:
+      break;
   }
 }
 
@@ -234,8 +242,8 @@ void ctlFiles::SaveFilenames() const {
     for (std::size_t nFile = 0; nFile < 4; ++nFile) {
       const auto& Slot = m_aPages[nPage].aFiles[nFile];
       if (!Slot.bChecked) continue;
-      AppModel().Platform().pSettings->Write(Configuration::sSettingsApplication, "Files", SettingsKey(nPage, nFile),
-                                             Slot.sFilename);
+      AppModel().Platform().pSettings->Write(Configuration::sSettingsApplication, "Files",
+                                             SettingsKey(nPage, nFile), Slot.sFilename);
     }
   }
 }
@@ -249,7 +257,8 @@ std::vector<std::string> ctlFiles::DropFiles(const std::vector<std::string>& aFi
     for (auto& Control : ctlSelectFile) {
       // RTF fits every listing, so the name can't tell which: the first free slot takes it.
       const auto sFilter = ST::ToUpper(Control.Filter);
-      const bool bFits = sFilter.find(sPattern + ";") != sFilter.npos || sFilter.find(sPattern + ")") != sFilter.npos ||
+      const bool bFits = sFilter.find(sPattern + ";") != sFilter.npos ||
+                         sFilter.find(sPattern + ")") != sFilter.npos ||
                          (bRtf && sFilter.find("*.RTF") != sFilter.npos);
       if (!bFits || !Control.Visible || !Control.Enabled() || !Control.Filename().empty()) continue;
       Control.DropFiles({sFile});

@@ -1,6 +1,6 @@
-// ctlFiles: the Files page: for each alignment of the job up to four file slots. The four controls show one page;
-// the records hold all of them. Pages and slots are numbered from 1; a number out of range does nothing and gives
-// an empty or false result.
+// ctlFiles: the Files page: for each alignment of the job up to four file slots. The four controls show one
+// page; the records hold all of them. Pages and slots are numbered from 1; a number out of range does nothing
+// and gives an empty or false result.
 #pragma once
 
 #include <array>
@@ -69,8 +69,8 @@ class ctlFiles {
   void cmdPage_Click(int nIndex);  ///< 0 forward, 1 back
   void cmdResume_Click();
   void LeaveFocus() { StoreControls(); }
-  /// Files dropped on the page: each goes into the first free slot that takes its ending. Gives those that no slot
-  /// takes.
+  /// Files dropped on the page: each goes into the first free slot that takes its ending. Gives those that no
+  /// slot takes.
   std::vector<std::string> DropFiles(const std::vector<std::string>& aFiles);
 
   /// Slot that was last given the focus by SetFocusTo, and its page; 0 for none.

@@ -7,10 +7,13 @@
 
 namespace vrek {
 
-void ctlImporting::UpdateText() { frImporting.Caption = AppModel().GetToken("FR_IMPORTING"); }
+void ctlImporting::UpdateText() {
+  frImporting.Caption = AppModel().GetToken("FR_IMPORTING");
+}
 
 TNode* ctlImporting::Find(std::string_view sKey) {
-  const auto it = std::find_if(trFiles.begin(), trFiles.end(), [&](const TNode& Node) { return Node.sKey == sKey; });
+  const auto it =
+      std::find_if(trFiles.begin(), trFiles.end(), [&](const TNode& Node) { return Node.sKey == sKey; });
   return it == trFiles.end() ? nullptr : &*it;
 }
 
@@ -19,9 +22,11 @@ TNode* ctlImporting::AddRoot(std::string_view sKey, std::string_view sText) {
   return &trFiles.emplace_back(TNode{std::string(sKey), std::string(sText), EImage::eNone, true});
 }
 
-TNode* ctlImporting::AddNode(std::string_view sKeyRoot, std::string_view sKey, std::string_view sText, EImage eImage) {
+TNode* ctlImporting::AddNode(std::string_view sKeyRoot, std::string_view sKey, std::string_view sText,
+                             EImage eImage) {
   const auto sWholeKey = std::string(sKeyRoot) + "@" + std::string(sKey);
-  auto it = std::find_if(trFiles.begin(), trFiles.end(), [&](const TNode& Node) { return Node.sKey == sKeyRoot; });
+  auto it =
+      std::find_if(trFiles.begin(), trFiles.end(), [&](const TNode& Node) { return Node.sKey == sKeyRoot; });
   if (it == trFiles.end() || Find(sWholeKey)) return nullptr;
   it = std::find_if(it + 1, trFiles.end(), [](const TNode& Node) { return Node.bRoot; });
   return &*trFiles.insert(it, TNode{sWholeKey, std::string(sText), eImage, false});

@@ -1,5 +1,6 @@
-// ctlImporting: the Importing page: a tree with one root for each alignment, one node for each input file and a mark
-// on each that says whether the file was read and passed its checks. frmReport shows what the checks found.
+// ctlImporting: the Importing page: a tree with one root for each alignment, one node for each input file and
+// a mark on each that says whether the file was read and passed its checks. frmReport shows what the checks
+// found.
 #pragma once
 
 #include <string>
@@ -13,7 +14,7 @@ namespace vrek {
 enum class EImage { eNone = 0, eSuccess = 1, eFailure = 2 };
 
 struct TNode {
-  std::string sKey;   ///< "PAGE1", "PAGE1@Hz"
+  std::string sKey;  ///< "PAGE1", "PAGE1@Hz"
   std::string sText;
   EImage eImage = EImage::eNone;
   bool bRoot = false;

@@ -20,9 +20,13 @@ bool IsValid(std::string_view sText, char cDecimal, char cThousands) {
 
 }  // namespace
 
-double ctlNumericText::NumericValue() const { return ST::ParseReal(txtNumber.Text); }
+double ctlNumericText::NumericValue() const {
+  return ST::ParseReal(txtNumber.Text);
+}
 
-void ctlNumericText::SetNumericValue(double dValue) { SetNumericValue(dValue, DecimalPlaces); }
+void ctlNumericText::SetNumericValue(double dValue) {
+  SetNumericValue(dValue, DecimalPlaces);
+}
 
 void ctlNumericText::SetNumericValue(double dValue, int nDigits) {
   txtNumber.Text = m_sLastValid = FormatReal(dValue, nDigits);

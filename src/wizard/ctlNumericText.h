@@ -17,11 +17,13 @@ class ctlNumericText {
   void SetNumericValue(double dValue, int nDigits);
   void SetEmpty();
 
-  /// What becomes of a key before it enters the box: the character to insert, or 0 for a key that is swallowed.
+  /// What becomes of a key before it enters the box: the character to insert, or 0 for a key that is
+  /// swallowed.
   static int FilterKey(int nKey);
 
-  /// The text has changed: keeps it, without blanks at its ends, when it is the beginning of a number; otherwise the
-  /// last valid text comes back. cDecimal and cThousands: the machine's separators. Gives whether it was kept.
+  /// The text has changed: keeps it, without blanks at its ends, when it is the beginning of a number;
+  /// otherwise the last valid text comes back. cDecimal and cThousands: the machine's separators. Gives
+  /// whether it was kept.
   bool txtNumber_Change(std::string_view sText, char cDecimal = '.', char cThousands = ',');
 
   TTextBox txtNumber;

@@ -18,9 +18,13 @@ std::string ctlPreferences::Version() const {
   return cmbVersion.Selected < 0 ? std::string() : cmbVersion.Items.at(nSelected).Text;
 }
 
-void ctlPreferences::ShowVersion(bool bShow) { frVersion.Visible = cmbVersion.Visible = lblVersion.Visible = bShow; }
+void ctlPreferences::ShowVersion(bool bShow) {
+  frVersion.Visible = cmbVersion.Visible = lblVersion.Visible = bShow;
+}
 
-void ctlPreferences::AddVersion(std::string_view sName) { cmbVersion.Items.push_back({std::string(sName)}); }
+void ctlPreferences::AddVersion(std::string_view sName) {
+  cmbVersion.Items.push_back({std::string(sName)});
+}
 
 bool ctlPreferences::RefreshDefaultVersion() {
   if (cmbVersion.Items.empty()) return false;

@@ -24,7 +24,8 @@ class ctlPreferences {
   std::string Version() const;
   void ShowVersion(bool bShow);
   void AddVersion(std::string_view sName);
-  /// Selects the entry equal to DefaultVersion, else the first. False when it isn't there or the list is empty.
+  /// Selects the entry equal to DefaultVersion, else the first. False when it isn't there or the list is
+  /// empty.
   bool RefreshDefaultVersion();
 
   std::string DefaultVersion;

@@ -51,6 +51,8 @@ void ctlProgress::Reset() {
   lblInfo.Caption.clear();
 }
 
-void ctlProgress::UpdateText() { cmbCancel.Caption = AppModel().GetToken("BT_CANCEL"); }
+void ctlProgress::UpdateText() {
+  cmbCancel.Caption = AppModel().GetToken("BT_CANCEL");
+}
 
 }  // namespace vrek

@@ -1,5 +1,5 @@
-// ctlProgress: the panel that lies over the page area while long work runs. Its writers let the window process its
-// messages, which keeps the panel painted and its Cancel button alive while the one thread works.
+// ctlProgress: the panel that lies over the page area while long work runs. Its writers let the window
+// process its messages, which keeps the panel painted and its Cancel button alive while the one thread works.
 #pragma once
 
 #include "platform/Progress.h"

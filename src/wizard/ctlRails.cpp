@@ -8,7 +8,8 @@ namespace {
 constexpr int nRed = 255, nBlack = 0, nWhite = 16777215, nMarkedSleeper = 2960740, nRail = 7303008;
 
 // One track at (x, y), w wide; nMarked is 1 left rail, 2 centre line, 4 right rail or 0.
-void DrawTrack(std::vector<TRailsShape>& aOut, double x, double y, double w, double dHeight, bool bOn, int nMarked) {
+void DrawTrack(std::vector<TRailsShape>& aOut, double x, double y, double w, double dHeight, bool bOn,
+               int nMarked) {
   const double h = std::floor((dHeight - 250) / 4);
   if (h <= 0) return;
   for (double c = y + 125; c <= dHeight - 125; c += 3 * h) {
@@ -37,7 +38,8 @@ std::vector<TRailsShape> ctlRails::Draw(double dWidth, double dHeight) const {
   } else if (NumberOfTrack == 2) {
     DrawTrack(aOut, 10, 10, dWidth / 4, dHeight, m_nTracksOn == 1, Marked(m_nRailsOn, 0));
     aOut.push_back({true, dWidth / 2, 0, dWidth / 2, dHeight, m_nRailsOn & 8 ? nRed : nBlack});
-    DrawTrack(aOut, dWidth - 10 - dWidth / 4, 10, dWidth / 4, dHeight, m_nTracksOn == 2, Marked(m_nRailsOn, 4));
+    DrawTrack(aOut, dWidth - 10 - dWidth / 4, 10, dWidth / 4, dHeight, m_nTracksOn == 2,
+              Marked(m_nRailsOn, 4));
   }
   return aOut;
 }

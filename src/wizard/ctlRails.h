@@ -1,5 +1,5 @@
-// ctlRails: a small plan of the tracks that tells which alignment a page is about, as boxes and lines in the units
-// of the control.
+// ctlRails: a small plan of the tracks that tells which alignment a page is about, as boxes and lines in the
+// units of the control.
 #pragma once
 
 #include <vector>
@@ -27,7 +27,8 @@ class ctlRails {
 
  private:
   int m_nTracksOn = 0;  // marked track: 0 none, 1 the first, 2 the second
-  int m_nRailsOn = 0;   // bits: 1, 2, 4 left rail, centre, right rail of the first track; 16, 32, 64 of the second; 8 axis
+  int m_nRailsOn =
+      0;  // bits: 1, 2, 4 left rail, centre, right rail of the first track; 16, 32, 64 of the second; 8 axis
 };
 
 }  // namespace vrek

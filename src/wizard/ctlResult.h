@@ -1,5 +1,5 @@
-// ctlResult: the Result page: for each alignment the first and last chainage of what went into the output. Pages and
-// rows are numbered from 1; a number out of range does nothing and gives an empty text.
+// ctlResult: the Result page: for each alignment the first and last chainage of what went into the output.
+// Pages and rows are numbered from 1; a number out of range does nothing and gives an empty text.
 #pragma once
 
 #include <array>

@@ -29,9 +29,13 @@ void ctlSelectFilename::SetOption(bool bShow, bool bValue, const std::string& sC
   chkOption.Caption = sCaption;
 }
 
-std::string ctlSelectFilename::GetName() const { return std::string(ST::GetFileBaseName(Filename())); }
+std::string ctlSelectFilename::GetName() const {
+  return std::string(ST::GetFileBaseName(Filename()));
+}
 
-std::string ctlSelectFilename::GetFilename() const { return std::string(ST::GetFileName(Filename())); }
+std::string ctlSelectFilename::GetFilename() const {
+  return std::string(ST::GetFileName(Filename()));
+}
 
 void ctlSelectFilename::txtFileName_Change(const std::string& sText) {
   txtFileName.Text = sText;
@@ -62,6 +66,8 @@ void ctlSelectFilename::DropFiles(const std::vector<std::string>& aFiles) {
   if (!aFiles.empty() && Enabled()) txtFileName_Change(aFiles.front());
 }
 
-void ctlSelectFilename::LeaveFocus() { txtFileName.FileMissing = chkFile.Value && !ExistFile(txtFileName.Text); }
+void ctlSelectFilename::LeaveFocus() {
+  txtFileName.FileMissing = chkFile.Value && !ExistFile(txtFileName.Text);
+}
 
 }  // namespace vrek

@@ -1,4 +1,5 @@
-// ctlSelectFilename: one file slot: check box, path, browse button and, in some slots, an option and an Edit button.
+// ctlSelectFilename: one file slot: check box, path, browse button and, in some slots, an option and an Edit
+// button.
 #pragma once
 
 #include <functional>

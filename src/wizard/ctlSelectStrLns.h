@@ -1,6 +1,7 @@
-// ctlSelectStrLns: which imported stringline plays which part: sub-pages, one for each alignment, with up to three
-// selectors. No job puts this page into its sequence; configurations that read stringlines do. A bad page or element
-// number reports failure 20000 with the source "ctlSelectStrLns.IsOk", and the operation does nothing.
+// ctlSelectStrLns: which imported stringline plays which part: sub-pages, one for each alignment, with up to
+// three selectors. No job puts this page into its sequence; configurations that read stringlines do. A bad
+// page or element number reports failure 20000 with the source "ctlSelectStrLns.IsOk", and the operation does
+// nothing.
 #pragma once
 
 #include <array>
@@ -23,8 +24,8 @@ struct TSelectItem {
 
 struct TSelectPage {
   std::string sTittle;
-  int nNumStrLnsToSelect = 0;              ///< selectors on show, 0 to 3
-  std::vector<TSelectItem> Items{1};       ///< from 0; at least one
+  int nNumStrLnsToSelect = 0;         ///< selectors on show, 0 to 3
+  std::vector<TSelectItem> Items{1};  ///< from 0; at least one
 };
 
 class ctlSelectStrLns {

@@ -12,7 +12,9 @@ constexpr std::string_view sNoStringLine = "----";
 
 }  // namespace
 
-std::string ctlSelectString::Tittle() const { return std::string(ST::Trim(frSelectStrLn.Caption)); }
+std::string ctlSelectString::Tittle() const {
+  return std::string(ST::Trim(frSelectStrLn.Caption));
+}
 
 void ctlSelectString::SetTittle(std::string_view sText) {
   frSelectStrLn.Caption = "   " + std::string(sText) + "   ";
@@ -36,8 +38,9 @@ void ctlSelectString::FillCombo(bool bWithEmptyItem) {
 }
 
 std::string ctlSelectString::SelectedString() const {
-  return cmbStringline.Selected < 0 ? std::string()
-                                    : cmbStringline.Items.at(static_cast<std::size_t>(cmbStringline.Selected)).Text;
+  return cmbStringline.Selected < 0
+             ? std::string()
+             : cmbStringline.Items.at(static_cast<std::size_t>(cmbStringline.Selected)).Text;
 }
 
 void ctlSelectString::SetSelectedString(std::string_view sName) {

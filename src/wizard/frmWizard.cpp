@@ -63,7 +63,9 @@ void frmWizard::UpdateText() {
   ctlProgress.UpdateText();
 }
 
-int frmWizard::FirstPage() const { return AppModel().ConverterInfo.nJobTypesNumber == 1 ? ePageFiles : ePageJob; }
+int frmWizard::FirstPage() const {
+  return AppModel().ConverterInfo.nJobTypesNumber == 1 ? ePageFiles : ePageJob;
+}
 
 // A failure that no routine below caught is reported once; the page is shown as far as it came.
 bool frmWizard::Enter(int nPage) {
@@ -138,7 +140,9 @@ void frmWizard::BackPage() {
   ShowCurrent();
 }
 
-void frmWizard::cmdCancel_Click() { EndProcess(1); }
+void frmWizard::cmdCancel_Click() {
+  EndProcess(1);
+}
 
 bool frmWizard::QueryClose() {
   if (m_bBusy) {

@@ -1,5 +1,5 @@
-// frmWizard: the wizard's window without a toolkit: title, a stack of pages and three buttons. It owns the order of
-// the pages and knows nothing of what a page does.
+// frmWizard: the wizard's window without a toolkit: title, a stack of pages and three buttons. It owns the
+// order of the pages and knows nothing of what a page does.
 #pragma once
 
 #include <functional>
@@ -45,7 +45,8 @@ class frmWizard {
   void cmdNext_Click();
   void cmdBack_Click();
   void cmdCancel_Click();
-  /// The title bar's close box. While work runs it presses the panel's Cancel; false: the window stays for now.
+  /// The title bar's close box. While work runs it presses the panel's Cancel; false: the window stays for
+  /// now.
   bool QueryClose();
 
   std::string Caption;

@@ -1,5 +1,5 @@
-// A fresh application object on an in-memory platform, for tests: boxes, log entries and settings are recorded,
-// the clock stands still, the temporary directory is the test's own.
+// A fresh application object on an in-memory platform, for tests: boxes, log entries and settings are
+// recorded, the clock stands still, the temporary directory is the test's own.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -23,10 +23,17 @@ struct TBox {
   EIcon eIcon = EIcon::eWarning;
 };
 
-class TestPlatform : public IDialogs, public IClock, public IEnvironment, public ISettingsStore, public IProcesses,
-                     public IEvents, public IOutputFiles {
+class TestPlatform : public IDialogs,
+                     public IClock,
+                     public IEnvironment,
+                     public ISettingsStore,
+                     public IProcesses,
+                     public IEvents,
+                     public IOutputFiles {
  public:
-  void MessageBox(std::string_view sText, EIcon eIcon) override { aBoxes.push_back({std::string(sText), eIcon}); }
+  void MessageBox(std::string_view sText, EIcon eIcon) override {
+    aBoxes.push_back({std::string(sText), eIcon});
+  }
   std::string OpenFile(std::string_view) override { return sOpenAnswer; }
   std::string SaveFile(std::string_view sFilter, std::string_view sFilename) override {
     sSaveFilter = sFilter;
@@ -37,11 +44,13 @@ class TestPlatform : public IDialogs, public IClock, public IEnvironment, public
   std::string UserName() const override { return sUser; }
   std::string ProgramDirectory() const override { return sProgramDirectory; }
   std::string TempDirectory() const override { return sTempDirectory; }
-  std::string Read(std::string_view, std::string_view sSection, std::string_view sKey, std::string_view sDefault) override {
+  std::string Read(std::string_view, std::string_view sSection, std::string_view sKey,
+                   std::string_view sDefault) override {
     const auto it = aSettings.find(std::string(sSection) + "/" + std::string(sKey));
     return it == aSettings.end() ? std::string(sDefault) : it->second;
   }
-  void Write(std::string_view, std::string_view sSection, std::string_view sKey, std::string_view sText) override {
+  void Write(std::string_view, std::string_view sSection, std::string_view sKey,
+             std::string_view sText) override {
     aSettings[std::string(sSection) + "/" + std::string(sKey)] = sText;
   }
   void RunAndWait(std::string_view sCommand) override { aCommands.emplace_back(sCommand); }

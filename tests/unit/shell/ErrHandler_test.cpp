@@ -1,0 +1,114 @@
+#include "shell/ErrHandler.h"
+
+#include <stdexcept>
+
+#include "support/TestApp.h"
+
+namespace vrek {
+namespace {
+
+using test::AppTest;
+
+struct TCase {
+  const char* pLabel;
+  int nNumber;
+  bool bDebugMode;
+  std::string sBox;  // "" for none
+  EIcon eIcon;
+  bool bLogged;
+};
+
+class ErrHandlerTable : public AppTest, public ::testing::WithParamInterface<TCase> {};
+
+TEST_P(ErrHandlerTable, ShowsAndLogs) {
+  const TCase& Case = GetParam();
+  Model.DebugMode = Case.bDebugMode;
+  ErrHandler({Case.nNumber, "What happened", "Where"});
+  if (Case.sBox.empty()) {
+    EXPECT_TRUE(Platform.aBoxes.empty());
+  } else {
+    ASSERT_EQ(Platform.aBoxes.size(), 1u);
+    EXPECT_EQ(Platform.aBoxes[0].sText, Case.sBox);
+    EXPECT_EQ(Platform.aBoxes[0].eIcon, Case.eIcon);
+  }
+  const std::string sEntry = "==== 01-02-2026  03:04:05 ====\r\nError: " + std::to_string(Case.nNumber) +
+                             " What happened in Where\r\n";
+  EXPECT_EQ(Log(), Case.bLogged ? sEntry : "");
+}
+
+const std::string sUnhandled = "Unhandler Error in Where\r\nWhat happened";
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Numbers, ErrHandlerTable, ::testing::Values(
+    TCase{"NotAllFilled",   10000, false, "E_NOTFILLALL",                     EIcon::eWarning,  false},
+    TCase{"SameName",       10001, false, "E_SAMENAME",                       EIcon::eWarning,  false},
+    TCase{"XmlElement",     10002, false, "E_NOTFINDXMLELM",                  EIcon::eWarning,  false},
+    TCase{"XmlUnreadable",  10003, false, "E_OPENLANDXML\r\nWhat happened",   EIcon::eWarning,  false},
+    TCase{"NoValidFile",    10011, true,  "E_NOVALIDFILE",                    EIcon::eWarning,  false},
+    TCase{"CantContent",    20001, false, "E_FILE_SUPER",                     EIcon::eWarning,  false},
+    TCase{"CantVersion",    20002, true,  "E_FILE_SUPER_VER",                 EIcon::eWarning,  false},
+    TCase{"AssertHosted",   20000, false, "",                                 EIcon::eWarning,  true},
+    TCase{"AssertByHand",   20000, true,  "ASSERT in Where\r\nWhat happened", EIcon::eWarning,  false},
+    TCase{"Cancelled",      2222,  false, sUnhandled,                         EIcon::eCritical, true},
+    TCase{"FileNotFound",   53,    true,  sUnhandled,                         EIcon::eCritical, true},
+    TCase{"Unknown",        -7,    false, sUnhandled,                         EIcon::eCritical, true}),
+    [](const auto& Info) { return std::string(Info.param.pLabel); });
+// clang-format on
+
+using ErrHandlerTest = AppTest;
+
+TEST_F(ErrHandlerTest, AppendsCodePageBytesToTheLogAndTellsOfEachEntry) {
+  std::vector<std::string> aTold;
+  Model.OnLogged = [&](std::string_view sText) { aTold.emplace_back(sText); };
+  LogMessage("Peñón €");
+  LogError({5, "Ω", "Aquí"});
+  EXPECT_EQ(Log(), "Msg Pe\xF1\xF3n \x80\r\n==== 01-02-2026  03:04:05 ====\r\nError: 5 ? in Aqu\xED\r\n");
+  EXPECT_EQ(aTold, (std::vector<std::string>{"Msg Peñón €", "Error: 5 Ω in Aquí"}));
+}
+
+TEST_F(ErrHandlerTest, PassesOnThatTheLogCanNotBeOpened) {
+  Platform.sTempDirectory = (Directory / "missing/").string();
+  try {
+    Guard("Reader", [] { Raise(Error::nOverflow); });
+    ADD_FAILURE() << "no failure came out";
+  } catch (const Failure& Caught) {
+    EXPECT_EQ(Caught.nNumber, Error::nPathNotFound);
+  }
+  EXPECT_EQ(Platform.aBoxes.size(), 1u);  // the user saw the first failure all the same
+}
+
+TEST_F(ErrHandlerTest, GuardNamesTheRoutineAndGivesItsFallback) {
+  EXPECT_EQ(Guard("Reader", -1, []() -> int { Raise(Error::nTypeMismatch, "Type mismatch", "Inner"); }), -1);
+  EXPECT_EQ(Guard("Reader", -1, []() -> int { throw std::bad_alloc(); }), -1);
+  EXPECT_EQ(Guard("Reader", -1, []() -> int { throw std::out_of_range("x"); }), -1);
+  EXPECT_EQ(Guard("Reader", -1, [] { return 4; }), 4);
+  ASSERT_EQ(Platform.aBoxes.size(), 3u);
+  EXPECT_EQ(Platform.aBoxes[0].sText, "Unhandler Error in Reader\r\nType mismatch");
+  EXPECT_EQ(Platform.aBoxes[1].sText, "Unhandler Error in Reader\r\nOut of memory");
+  EXPECT_EQ(Platform.aBoxes[2].sText, "Unhandler Error in Reader\r\nInvalid procedure call or argument");
+}
+
+TEST_F(ErrHandlerTest, TopLevelReportsWhateverRisesToIt) {
+  EXPECT_TRUE(TopLevel([] {}));
+  EXPECT_FALSE(TopLevel([] { Raise(Error::nXmlElementMissing, "Element missing", "Deep"); }));
+  ASSERT_EQ(Platform.aBoxes.size(), 1u);
+  EXPECT_EQ(Platform.aBoxes[0].sText, "Unhandler Error in Deep\r\nElement missing");
+  EXPECT_NE(Log().find("Error: 10002 Element missing in Deep"), std::string::npos);
+
+  Platform.sTempDirectory = (Directory / "missing/").string();
+  EXPECT_FALSE(TopLevel([] { Raise(Error::nOverflow); }));
+  EXPECT_EQ(Platform.aBoxes.size(), 2u);
+}
+
+TEST_F(ErrHandlerTest, ReportsToTheConsoleBeforeThereIsAnApplicationObject) {
+  SetAppModel(nullptr);
+  ::testing::internal::CaptureStderr();
+  EXPECT_FALSE(TopLevel([] { AppModel(); }));
+  EXPECT_EQ(Guard("Early", 3, []() -> int { Raise(Error::nOverflow); }), 3);
+  EXPECT_EQ(::testing::internal::GetCapturedStderr(),
+            "Unhandler Error in \nObject variable or With block variable not set\n"
+            "Unhandler Error in Early\nOverflow\n");
+}
+
+}  // namespace
+}  // namespace vrek
