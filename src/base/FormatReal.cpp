@@ -26,7 +26,7 @@ struct TDecimal {
   int nDecimals = 0;
 };
 
-// From this magnitude on the 15 digits fit exact arithmetic in 128 bits.
+// From the first of these to below the last, the 15 digits are exact arithmetic in 128 bits.
 constexpr int nMinPower = -8;
 constexpr std::array<double, 24> aPowers = {1e-8, 1e-7, 1e-6, 1e-5, 1e-4, 1e-3, 1e-2, 1e-1,
                                             1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,

@@ -45,9 +45,12 @@ TEST_F(OutputFile, SaysWhyItCannotBeCreated) {
   EXPECT_EQ(FailureOf([&] { CreateOutputFile(Path("")); }), 75);
   EXPECT_EQ(FailureOf([&] { CreateOutputFile(""); }), 75);
   EXPECT_EQ(FailureOf([&] { CreateOutputFile(Path("out.xml") + '\0'); }), 75);
+}
+
+TEST_F(OutputFile, NeedsPermission) {
   if (::geteuid() == 0) GTEST_SKIP() << "the superuser may write everywhere";
-  std::filesystem::permissions(Path("plain"), std::filesystem::perms::owner_read);
-  EXPECT_EQ(FailureOf([&] { CreateOutputFile(Path("plain")); }), 70);
+  std::filesystem::permissions(Write("locked", "x"), std::filesystem::perms::owner_read);
+  EXPECT_EQ(FailureOf([&] { CreateOutputFile(Path("locked")); }), 70);
 }
 
 TEST_F(OutputFile, AFullDiskIsAFailureWhereverItShows) {
