@@ -1,122 +1,187 @@
+// From a chainage to a point on the alignment.
 #include <cmath>
+
 #include "base/Checked.h"
 #include "geometry/Alg.h"
+#include "geometry/AligmentIndex.h"
+#include "geometry/UnitClothoid.h"
 #include "shell/ErrHandler.h"
+
 namespace vrek::Alg {
-EElementKind GetElementKind(const THzElement& e) {
-  return e.dRadius == 0 ? eStraight : e.dParameter == 0 ? eArc : e.dParameter > 0 ? eClothoid : eCubicSpiral;
-}
-THzElement InRadians(const THzElement& e) {
-  THzElement c = e;
-  c.dAzimuth = e.dAzimuth * GM::dGonToRadians;
-  return c;
-}
-THzPoint GetPointOnLine(double d, const THzElement& e) {
-  return GM::PolarPoint(GM::StartOf(e), e.dAzimuth, d);
-}
-THzPoint GetPointOnArc(double d, const THzElement& e) {
-  return GM::PointOnArc(GM::StartOf(e), e.dRadius, d, e.dAzimuth);
-}
 namespace {
-struct Frame {
-  double A;
-  double tau(double s) const { return s * s / (2 * A * A); }
-  double delta(double s) const {
-    double x, y;
-    GM::ClothoidUnitPoint(tau(s), x, y);
-    return std::atan(Checked::Divide(y, x));
-  }
-  double c(double s) const {
-    double x, y;
-    GM::ClothoidUnitPoint(tau(s), x, y);
-    return Checked::Sqrt((A * y) * (A * y) + (A * x) * (A * x));
-  }
-};
-THzPoint Go(const THzPoint& q, double b, double c) {
-  return GM::PolarPoint(q, GM::Normalized(b), c);
+
+constexpr double dRunOut = 0.02;  // metres within which a clothoid counts as running out to a straight
+
+// From a point along an azimuth, normalized as soon as it is formed.
+THzPoint Go(const THzPoint& From, double dAzimuth, double dDistance) {
+  return GM::PolarPoint(From, GM::Normalized(dAzimuth), dDistance);
 }
-THzPoint Clothoid(double d, double rEnd, const THzElement& e) {
-  const double A = e.dParameter, R = e.dRadius, L = e.dLength, a = e.dAzimuth, sg = R > 0 ? 1 : -1;
-  const THzPoint P = GM::StartOf(e);
-  const Frame f{A};
-  auto With = [](THzPoint p, double az) {
-    p.dAzimuth = GM::Normalized(az);
-    return p;
-  };
-  if (d == 0) return {P.dX, P.dY, a};
-  if (R * 1000 == 1 || R * 1000 == -1) return With(Go(P, a + sg * f.delta(d), f.c(d)), a + sg * f.tau(d));
-  if (std::fabs(A * A / std::fabs(R) - L) < 0.02) {
-    if (L == 0) return {P.dX, P.dY, a};
-    const double b = GM::Normalized(a + GM::dPi + sg * f.tau(L));
-    const THzPoint O = Go(P, b - sg * f.delta(L) + GM::dPi, f.c(L));
-    const double r = L - d;
-    if (r == 0) return With(O, b + GM::dPi);
-    return With(Go(O, b - sg * f.delta(r), f.c(r)), b - sg * f.tau(r) + GM::dPi);
-  }
-  if (std::fabs(rEnd) < std::fabs(R)) {
-    const double s0 = Checked::Divide(A * A, std::fabs(rEnd)) - L, b = GM::Normalized(a - sg * f.tau(s0));
-    const THzPoint O = Go(P, b + sg * f.delta(s0) + GM::dPi, f.c(s0));
-    const double s = d + s0;
-    return With(Go(O, b + sg * f.delta(s), f.c(s)), b + sg * f.tau(s));
-  }
-  if (std::fabs(rEnd) > std::fabs(R)) {
-    const double s0 = A * A / std::fabs(R), b = GM::Normalized(a + sg * f.tau(s0));
-    const THzPoint O = Go(P, b - sg * f.delta(s0), f.c(s0));
-    const double s = s0 - d;
-    return With(Go(O, b + GM::dPi - sg * f.delta(s), f.c(s)), b - sg * f.tau(s));
-  }
+
+THzPoint WithAzimuth(THzPoint Point, double dAzimuth) {
+  Point.dAzimuth = GM::Normalized(dAzimuth);
+  return Point;
+}
+
+// Case A: the clothoid leaves a straight at its start, which is the origin.
+THzPoint FromStraight(double d, double sg, const THzElement& Element) {
+  const auto Chord = GM::ClothoidChord(Element.dParameter, d);
+  const THzPoint Point = Go(GM::StartOf(Element), Element.dAzimuth + sg * Chord.dDelta, Chord.dChord);
+  return WithAzimuth(Point, Element.dAzimuth + sg * Chord.dTau);
+}
+
+// Case B: it runs out to a straight at its end, where the origin lies.
+THzPoint ToStraight(double d, double sg, const THzElement& Element) {
+  const double L = Element.dLength;
+  if (L == 0) return {Element.dX, Element.dY, Element.dAzimuth};
+  // 1., 2. the azimuth at the origin looking back, and the origin
+  const auto Whole = GM::ClothoidChord(Element.dParameter, L);
+  const double b = GM::Normalized(Element.dAzimuth + GM::dPi + sg * Whole.dTau);
+  const THzPoint Origin = Go(GM::StartOf(Element), b - sg * Whole.dDelta + GM::dPi, Whole.dChord);
+  // 3., 4. back from the origin
+  const double r = L - d;
+  if (r == 0) return WithAzimuth(Origin, b + GM::dPi);
+  const auto Rest = GM::ClothoidChord(Element.dParameter, r);
+  return WithAzimuth(Go(Origin, b - sg * Rest.dDelta, Rest.dChord), b - sg * Rest.dTau + GM::dPi);
+}
+
+// Case C: the curvature grows; the origin lies behind the start.
+THzPoint Growing(double d, double dEndRadius, double sg, const THzElement& Element) {
+  const double A = Element.dParameter;
+  const double s0 = Checked::Divide(A * A, std::fabs(dEndRadius)) - Element.dLength;
+  const auto Before = GM::ClothoidChord(A, s0);
+  const double b = GM::Normalized(Element.dAzimuth - sg * Before.dTau);
+  const THzPoint Origin = Go(GM::StartOf(Element), b + sg * Before.dDelta + GM::dPi, Before.dChord);
+  const auto Chord = GM::ClothoidChord(A, d + s0);
+  return WithAzimuth(Go(Origin, b + sg * Chord.dDelta, Chord.dChord), b + sg * Chord.dTau);
+}
+
+// Case D: the curvature falls; the origin lies ahead of the end.
+THzPoint Falling(double d, double sg, const THzElement& Element) {
+  const double A = Element.dParameter, s0 = A * A / std::fabs(Element.dRadius);
+  const auto Whole = GM::ClothoidChord(A, s0);
+  const double b = GM::Normalized(Element.dAzimuth + sg * Whole.dTau);
+  const THzPoint Origin = Go(GM::StartOf(Element), b - sg * Whole.dDelta, Whole.dChord);
+  const auto Rest = GM::ClothoidChord(A, s0 - d);
+  return WithAzimuth(Go(Origin, b + GM::dPi - sg * Rest.dDelta, Rest.dChord), b - sg * Rest.dTau);
+}
+
+THzPoint PointOnClothoid(double d, double dEndRadius, const THzElement& Element) {
+  const double A = Element.dParameter, R = Element.dRadius, sg = R > 0 ? 1 : -1;
+  if (d == 0) return {Element.dX, Element.dY, Element.dAzimuth};
+  if (R * 1000 == 1 || R * 1000 == -1) return FromStraight(d, sg, Element);
+  if (std::fabs(A * A / std::fabs(R) - Element.dLength) < dRunOut) return ToStraight(d, sg, Element);
+  if (std::fabs(dEndRadius) < std::fabs(R)) return Growing(d, dEndRadius, sg, Element);
+  if (std::fabs(dEndRadius) > std::fabs(R)) return Falling(d, sg, Element);
   return {};
 }
+
+bool IsFinite(const THzPoint& Point) {
+  return std::isfinite(Point.dX) && std::isfinite(Point.dY) && std::isfinite(Point.dAzimuth);
+}
+
+// The last element that starts at or before a chainage; of several that start right there, the first.
+int ElementToEvaluate(const THzElements& aHz, double dChainage) {
+  int i = 1;
+  for (int k = 2; k <= UpperBound(aHz); ++k) {
+    const double dStart = aHz[static_cast<std::size_t>(k)].dChainage;
+    const bool bSameStart = dStart == dChainage && aHz[static_cast<std::size_t>(i)].dChainage == dChainage;
+    if (dStart <= dChainage && !bSameStart) i = k;
+  }
+  return i;
+}
+
+THzPoint PointInElement(const THzElements& aHz, int i, double dChainage) {
+  const THzElement Element = InRadians(Checked::At(aHz, i));
+  const double d = dChainage - Element.dChainage;
+  switch (GetElementKind(Element)) {
+    case eStraight:
+      return GetPointOnLine(d, Element);
+    case eArc:
+      return GetPointOnArc(d, Element);
+    case eClothoid:
+      return GetPointOnClothoid(d, EndRadiusInAligment(aHz, i), Element);
+    default:
+      break;
+  }
+  if (i == 1 || i == UpperBound(aHz)) Raise(Error::nInvalidCall);
+  const bool bFromStart = Checked::At(aHz, i - 1).dRadius == 0;
+  return GetPointOnCubicSpiral(std::fabs(Element.dParameter), bFromStart, Element, Checked::At(aHz, i + 1));
+}
+
+template <class TFind>
+bool Coord(const THzElements& aHz, double dChainage, THzPoint& Point, TFind&& Find) {
+  return Guard("GetCoordFromHzAligment", false, [&] {
+    if (UpperBound(aHz) < 1 || dChainage < aHz[1].dChainage) Raise(Error::nInvalidCall);
+    const THzPoint Found = PointInElement(aHz, Find(), dChainage);
+    if (!IsFinite(Found)) Raise(Error::nOverflow);
+    Point = Found;
+    return true;
+  });
+}
+
 }  // namespace
-THzPoint GetPointOnClothoid(double d, double rEnd, const THzElement& e) {
+
+EElementKind GetElementKind(const THzElement& Element) {
+  if (Element.dRadius == 0) return eStraight;
+  if (Element.dParameter == 0) return eArc;
+  return Element.dParameter > 0 ? eClothoid : eCubicSpiral;
+}
+
+THzElement InRadians(const THzElement& Element) {
+  THzElement Copy = Element;
+  Copy.dAzimuth = Element.dAzimuth * GM::dGonToRadians;
+  return Copy;
+}
+
+THzPoint GetPointOnLine(double dDistance, const THzElement& Element) {
+  return GM::PolarPoint(GM::StartOf(Element), Element.dAzimuth, dDistance);
+}
+
+THzPoint GetPointOnArc(double dDistance, const THzElement& Element) {
+  return GM::PointOnArc(GM::StartOf(Element), Element.dRadius, dDistance, Element.dAzimuth);
+}
+
+THzPoint GetPointOnClothoid(double dDistance, double dEndRadius, const THzElement& Element) {
   try {
-    return Clothoid(d, rEnd, e);
+    const THzPoint Point = PointOnClothoid(dDistance, dEndRadius, Element);
+    return IsFinite(Point) ? Point : THzPoint{};
   } catch (const Failure&) {
     return {};
   }
 }
-THzPoint GetPointOnCubicSpiral(double d0, bool bFromStart, const THzElement& e, const THzElement& n) {
-  const double X0 = bFromStart ? e.dX : n.dX, Y0 = bFromStart ? e.dY : n.dY,
-               a = bFromStart ? e.dAzimuth : n.dAzimuth * GM::dGonToRadians,
-               x = bFromStart ? e.dLength : d0 - e.dLength, R = e.dRadius;
+
+THzPoint GetPointOnCubicSpiral(double d0, bool bFromStart, const THzElement& Element,
+                               const THzElement& Next) {
+  // 1. origin, azimuth there and the way along its tangent
+  const THzPoint Origin = bFromStart ? GM::StartOf(Element) : GM::StartOf(Next);
+  const double a = bFromStart ? Element.dAzimuth : Next.dAzimuth * GM::dGonToRadians;
+  const double x = bFromStart ? Element.dLength : d0 - Element.dLength;
+  // 2. offset of a cubic parabola, with the correction of its curvature
+  const double R = Element.dRadius;
   const double y = Checked::Divide(x * x * x, 6 * R * d0) * (1 + 3 * d0 * d0 / (64 * R * R));
-  return {X0 + std::sin(a) * x + std::cos(a) * y, Y0 + std::cos(a) * x - std::sin(a) * y, 0};
+  // 3.
+  return {Origin.dX + std::sin(a) * x + std::cos(a) * y, Origin.dY + std::cos(a) * x - std::sin(a) * y, 0};
 }
-double EndRadiusInAligment(const THzElements& a, int i) {
-  const auto e = InRadians(a[i]);
-  if (i < UpperBound(a) && e.dParameter > 0 && std::fabs(e.dRadius) != 0.001) {
-    try {
-      const double r = GM::ChooseClothoidEndRadius(e, InRadians(a[i + 1]).dAzimuth, a[i + 1].dRadius);
-      if (r != 0 && std::fabs(r) < std::fabs(e.dRadius)) return r;
-    } catch (const Failure&) {
-    }
+
+double EndRadiusInAligment(const THzElements& aHz, int nElement) {
+  const THzElement Element = InRadians(Checked::At(aHz, nElement));
+  const bool bHasNext = nElement < UpperBound(aHz);
+  if (bHasNext && Element.dParameter > 0 && std::fabs(Element.dRadius) != GM::dInfiniteRadius) {
+    const THzElement Next = InRadians(Checked::At(aHz, nElement + 1));
+    const double dRadius = GM::ChooseClothoidEndRadius(Element, Next.dAzimuth, Next.dRadius);
+    if (dRadius != 0 && std::fabs(dRadius) < std::fabs(Element.dRadius)) return dRadius;
   }
-  return GM::GetClothoidEndRadius(e);
+  return GM::GetClothoidEndRadius(Element);
 }
-bool GetCoordFromHzAligment(const THzElements& a, double ch, THzPoint& p) {
-  return Guard("GetCoordFromHzAligment", false, [&] {
-    const int n = UpperBound(a);
-    if (n <= 0 || ch < a[1].dChainage) Raise(5);
-    int i = 1;
-    for (int k = 2; k <= n; ++k)
-      if (a[k].dChainage <= ch && a[k].dChainage != a[i].dChainage) i = k;
-    const auto e = InRadians(a[i]);
-    const double d = ch - e.dChainage;
-    switch (GetElementKind(e)) {
-      case eStraight:
-        p = GetPointOnLine(d, e);
-        break;
-      case eArc:
-        p = GetPointOnArc(d, e);
-        break;
-      case eClothoid:
-        p = GetPointOnClothoid(d, EndRadiusInAligment(a, i), e);
-        break;
-      default:
-        if (i == 1 || i == n) Raise(5);
-        p = GetPointOnCubicSpiral(std::fabs(e.dParameter), a[i - 1].dRadius == 0, e, a[i + 1]);
-    }
-    return true;
-  });
+
+bool GetCoordFromHzAligment(const THzElements& aHz, double dChainage, THzPoint& Point) {
+  return Coord(aHz, dChainage, Point, [&] { return ElementToEvaluate(aHz, dChainage); });
 }
+
+bool GetCoordFromHzAligment(const CHzIndex& Index, double dChainage, THzPoint& Point) {
+  const auto& aHz = Index.Elements();
+  if (!Index.InOrder()) return GetCoordFromHzAligment(aHz, dChainage, Point);
+  return Coord(aHz, dChainage, Point, [&] { return Index.ElementToEvaluate(dChainage); });
+}
+
 }  // namespace vrek::Alg

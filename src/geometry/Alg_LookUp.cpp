@@ -1,21 +1,29 @@
+// From a chainage to the element that holds it.
+#include <algorithm>
+
 #include "geometry/Alg.h"
 
 namespace vrek::Alg {
+namespace {
 
-template <class T>
-int Find(double ch, const T& a) {
-  const int n = UpperBound(a);
-  for (int i = 1; i <= n; ++i) {
-    if (ch < a[i].dChainage) return i - 1 < 1 ? 1 : i - 1;
-    if (ch == a[i].dChainage) return i;
+template <class TElements>
+int FindElement(double dChainage, const TElements& aElements) {
+  for (int i = 1; i <= UpperBound(aElements); ++i) {
+    const double dStart = aElements[static_cast<std::size_t>(i)].dChainage;
+    if (dChainage < dStart) return std::max(i - 1, 1);
+    if (dChainage == dStart) return i;
   }
-  return n;
+  return UpperBound(aElements);
 }
-int FindHzElement(double ch, const THzElements& a) {
-  return Find(ch, a);
+
+}  // namespace
+
+int FindHzElement(double dChainage, const THzElements& aHz) {
+  return FindElement(dChainage, aHz);
 }
-int FindVtElement(double ch, const TVtElements& a) {
-  return Find(ch, a);
+
+int FindVtElement(double dChainage, const TVtElements& aVt) {
+  return FindElement(dChainage, aVt);
 }
 
 }  // namespace vrek::Alg

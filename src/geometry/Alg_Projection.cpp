@@ -4,6 +4,8 @@
 
 #include "base/Checked.h"
 #include "geometry/Alg.h"
+#include "geometry/AligmentIndex.h"
+#include "geometry/UnitClothoid.h"
 #include "shell/ErrHandler.h"
 
 namespace vrek::Alg {
@@ -70,10 +72,11 @@ int FindNearestVertex(const THzPoint& Point, const THzElements& aHz, int nFirst,
   return nNearest;
 }
 
-bool ProjectPointToAligment(double& dChainage, double& dOffset, const THzPoint& Point, const THzElements& aHz,
-                            int nFirst, int nLast) {
-  // 1.
-  const int k = FindNearestVertex(Point, aHz, nFirst, nLast);
+namespace {
+
+// Steps 1 to 7 from the nearest vertex k on.
+bool ProjectNear(double& dChainage, double& dOffset, const THzPoint& Point, const THzElements& aHz,
+                 int nFirst, int k) {
   dChainage = dOffset = dOutside;
   double dPrevChainage = dOutside, dPrevOffset = dOutside;
   // 2., 3.
@@ -95,6 +98,28 @@ bool ProjectPointToAligment(double& dChainage, double& dOffset, const THzPoint& 
   dChainage = RoundedToMillimetres(dChainage);
   dOffset = RoundedToMillimetres(dOffset);
   return bInPrev || bInThis;
+}
+
+}  // namespace
+
+bool ProjectPointToAligment(double& dChainage, double& dOffset, const THzPoint& Point, const THzElements& aHz,
+                            int nFirst, int nLast) {
+  return ProjectNear(dChainage, dOffset, Point, aHz, nFirst, FindNearestVertex(Point, aHz, nFirst, nLast));
+}
+
+bool ProjectPointToAligment(double& dChainage, double& dOffset, const THzPoint& Point,
+                            const CHzIndex& Index) {
+  return ProjectNear(dChainage, dOffset, Point, Index.Elements(), 1, Index.NearestVertex(Point));
+}
+
+bool ProjectChainToAnotherAligment(double dChainage, const CHzIndex& Source, const CHzIndex& Target,
+                                   double& dOffset, double& dChainPjt) {
+  return Guard("ProjectChainToAnotherAligment", false, [&] {
+    dOffset = dChainPjt = 0;
+    THzPoint Point;
+    if (!GetCoordFromHzAligment(Source, dChainage, Point)) Raise(Error::nInvalidCall);
+    return ProjectPointToAligment(dChainPjt, dOffset, Point, Target);
+  });
 }
 
 void ProjectOnLine(double& dOffset, double& dAlong, const THzPoint& Point, const THzElement& Element) {
@@ -132,30 +157,22 @@ TUnitFrame FrameOf(const THzElement& Element, double dEndRadius) {
   const double A = Element.dParameter, R = Element.dRadius, L = Element.dLength;
   const double a = Element.dAzimuth * GM::dGonToRadians, sg = R > 0 ? 1 : -1;
   const THzPoint S = GM::StartOf(Element);
-  double dTau = 0, dDelta = 0, dChord = 0;
-  const auto At = [&](double s) {
-    dTau = s * s / (2 * A * A);
-    double x = 0, y = 0;
-    GM::ClothoidUnitPoint(dTau, x, y);
-    dDelta = std::atan(Checked::Divide(y, x));
-    dChord = Checked::Sqrt((A * y) * (A * y) + (A * x) * (A * x));
-  };
   // 1. from a straight
   if (std::fabs(R) == GM::dInfiniteRadius) return {S, GM::Normalized(a), true, 0};
   // 3. growing between two radii
   if (dEndRadius != 0 && std::fabs(dEndRadius) != GM::dInfiniteRadius &&
       std::fabs(R) > std::fabs(dEndRadius)) {
     const double s0 = A * A / std::fabs(dEndRadius) - L;
-    At(s0);
-    const double dBack = GM::Normalized(a - sg * dTau + sg * dDelta + GM::dPi);
-    return {GM::PolarPoint(S, dBack, dChord), GM::Normalized(a - sg * dTau), true, s0};
+    const auto Before = GM::ClothoidChord(A, s0);
+    const double dBack = GM::Normalized(a - sg * Before.dTau + sg * Before.dDelta + GM::dPi);
+    return {GM::PolarPoint(S, dBack, Before.dChord), GM::Normalized(a - sg * Before.dTau), true, s0};
   }
   // 2. to a straight, 4. falling between two radii
   const bool bToStraight = dEndRadius == 0 || std::fabs(dEndRadius) == GM::dInfiniteRadius;
   const double s0 = bToStraight ? L : A * A / std::fabs(R);
-  At(s0);
-  const double dAhead = GM::Normalized(a + sg * (dTau - dDelta));
-  return {GM::PolarPoint(S, dAhead, dChord), GM::Normalized(a + sg * dTau), false, s0};
+  const auto Ahead = GM::ClothoidChord(A, s0);
+  const double dToOrigin = GM::Normalized(a + sg * (Ahead.dTau - Ahead.dDelta));
+  return {GM::PolarPoint(S, dToOrigin, Ahead.dChord), GM::Normalized(a + sg * Ahead.dTau), false, s0};
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+// Circular arcs.
 #include <cmath>
 
 #include "base/Checked.h"
@@ -5,41 +6,44 @@
 
 namespace vrek::GM {
 
-THzPoint PointOnArc(const THzPoint& p, double R, double L, double a) {
-  const double h = dPi * std::fabs(R), l = std::fabs(L);
-  double delta = l < h    ? Checked::Divide(l, std::fabs(R))
-                 : l == h ? dPi
-                          : Checked::Divide(2 * h - l, std::fabs(R));
-  const double c = std::fabs(2 * R * std::sin(delta / 2)), beta = (dPi - delta) / 2;
-  double chord, end;
-  if (l <= h) {
-    if (R > 0) {
-      chord = a + delta / 2;
-      end = chord + delta / 2;
-    } else {
-      chord = a - delta / 2;
-      end = chord - delta / 2;
-    }
-  } else {
-    if (R > 0) {
-      chord = a + dHalfPi + beta;
-      end = chord + dPi - delta / 2;
-    } else {
-      chord = a - dHalfPi - beta;
-      end = chord - dPi + delta / 2;
-    }
+THzPoint PointOnArc(const THzPoint& Start, double dRadius, double dLength, double dAzimuth) {
+  const double rho = std::fabs(dRadius), h = dPi * rho, l = std::fabs(dLength);
+  // 1. the angle at the centre, of the shorter way round
+  double delta = dPi;
+  if (l < h) {
+    delta = Checked::Divide(l, rho);
+  } else if (l > h) {
+    delta = Checked::Divide(2 * h - l, rho);
   }
-  THzPoint q = PolarPoint(p, chord, c);
-  q.dAzimuth = Normalized(end);
-  return q;
+  // 2. the chord and the base angle of its triangle
+  const double c = std::fabs(2 * dRadius * std::sin(delta / 2)), beta = (dPi - delta) / 2;
+  // 3. azimuths of the chord and at the end
+  double dChord = 0, dEnd = 0;
+  if (l <= h) {
+    dChord = dRadius > 0 ? dAzimuth + delta / 2 : dAzimuth - delta / 2;
+    dEnd = dRadius > 0 ? dChord + delta / 2 : dChord - delta / 2;
+  } else {
+    dChord = dRadius > 0 ? dAzimuth + dHalfPi + beta : dAzimuth - dHalfPi - beta;
+    dEnd = dRadius > 0 ? dChord + dPi - delta / 2 : dChord - dPi + delta / 2;
+  }
+  // 4.
+  THzPoint End = PolarPoint(Start, dChord, c);
+  End.dAzimuth = Normalized(dEnd);
+  return End;
 }
-THzPoint GetArcCenter(const THzPoint& p1, const THzPoint& p2, double R, double L) {
-  if (R == 0) return p1;
-  const double d = GetDistance(p1, p2), az = GetAzimuth(p1, p2);
-  const double beta = Normalized(dHalfPi - ArcSin(d / (2 * std::fabs(R))));
-  const bool longArc = L > dPi * std::fabs(R);
-  const double a = ((R >= 0 && !longArc) || (R < 0 && longArc)) ? az + beta : az - beta;
-  return PolarPoint(p1, Normalized(a), std::fabs(R));
+
+THzPoint GetArcCenter(const THzPoint& Start, const THzPoint& End, double dRadius, double dLength) {
+  // 1.
+  if (dRadius == 0) return Start;
+  // 2.
+  const double rho = std::fabs(dRadius);
+  const double d = GetDistance(Start, End), az = GetAzimuth(Start, End);
+  const double beta = Normalized(dHalfPi - ArcSin(d / (2 * rho)));
+  // 3. the side of the centre: that of the radius' sign, the other one beyond a half circle
+  const bool bLong = dLength > dPi * rho;
+  const double dToCenter = (dRadius >= 0) != bLong ? az + beta : az - beta;
+  // 4.
+  return PolarPoint(Start, Normalized(dToCenter), rho);
 }
 
 }  // namespace vrek::GM
