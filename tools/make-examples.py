@@ -3,7 +3,7 @@
 
 The geometry is laid out by integrating the curvature (Gauss-Legendre), not by the converter's own formulas, so the
 examples also hold these against an independent computation. Run it from anywhere; it replaces the input files and
-job files, and leaves the expected documents to scripts/update-examples.
+job files, and leaves the expected documents to scripts/update-golden.
 """
 import math
 import pathlib
