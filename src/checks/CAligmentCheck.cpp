@@ -14,10 +14,6 @@ namespace {
 
 constexpr std::string_view sNoLength = "Invalid element lenght";
 
-TFileReport& Current() {
-  return Checked::At(Reports(), std::ssize(Reports()) - 1);
-}
-
 // A body that ends quietly on a failure; what it found until then stays in the report.
 template <class TResult, class TBody>
 TResult Quietly(TResult Fallback, TBody&& Body) {
@@ -68,32 +64,11 @@ bool CheckInside(const TVtElements& aVt, const std::vector<double>& aChainages, 
         AddReportError(dChainage, true, dNotGiven, dNotGiven, dNotGiven, dNotGiven,
                        AppModel().GetToken(sToken));
     }
-    return Current().nErrors != 0;
+    return CurrentReport().nErrors != 0;
   });
 }
 
 }  // namespace
-
-std::vector<TFileReport>& Reports() {
-  static std::vector<TFileReport> aReports;
-  return aReports;
-}
-
-void InitReports() {
-  Reports().clear();
-}
-
-void AddReportFile(std::string_view sName, EFileKind nKind) {
-  Reports().push_back({nKind, std::string(sName), std::vector<TCheckError>(1), 0});
-}
-
-void AddReportError(double dChainage, bool bError, double dX, double dY, double dZ, double dDistance,
-                    std::string_view sDescription) {
-  TFileReport& Report = Current();
-  if (Report.nErrors > 0) Report.Errors.emplace_back();
-  if (bError) ++Report.nErrors;
-  Report.Errors.back() = {dChainage, dX, dY, dZ, dDistance, bError, std::string(sDescription)};
-}
 
 int CheckHz(const THzElements& aHz, double dTolerance) {
   return Guard("CheckHz", 0, [&] {
@@ -105,7 +80,7 @@ int CheckHz(const THzElements& aHz, double dTolerance) {
     }
     // 2. does each element end where the next one starts?
     for (int i = 1; i < UpperBound(aHz); ++i) CheckMeeting(aHz, i, dTolerance);
-    return Current().nErrors;
+    return CurrentReport().nErrors;
   });
 }
 
@@ -121,7 +96,7 @@ int CheckVt(const TVtElements& aVt, double dTolerance) {
         AddReportError(Next.dChainage, true, dNotGiven, dNotGiven, dDifference, dNotGiven,
                        AppModel().GetToken("E_TOLE_VT"));
     }
-    return Current().nErrors;
+    return CurrentReport().nErrors;
   });
 }
 

@@ -1,13 +1,11 @@
-// The reports of all files noted since the last InitReports; for this folder alone.
+// The reports that the checks fill, one for each file in the order of reading.
 #pragma once
-
-#include <vector>
 
 #include "checks/CAligmentCheck.h"
 
 namespace vrek::CAligmentCheck {
 
-/// In the order of AddReportFile; the last one is the current file's.
-std::vector<TFileReport>& Reports();
+/// That of the file noted last. Before the first one: failure 9.
+TFileReport& CurrentReport();
 
 }  // namespace vrek::CAligmentCheck

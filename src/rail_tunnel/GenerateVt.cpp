@@ -6,7 +6,7 @@
 
 #include "base/Checked.h"
 #include "design_data/CAligmentsDatas.h"
-#include "geometry/Alg.h"
+#include "geometry/AligmentIndex.h"
 #include "rail_tunnel/clsSuperelevation.h"
 
 namespace vrek::CAligmentsDatas {
@@ -53,6 +53,7 @@ void Append(TVtElements& aVt, double dChainage, double dHeight) {
       Before.dSlope = Checked::Finite((dHeight - Before.dHeight) / std::fabs(Before.dLength));
   }
   TVtElement& Element = aVt.emplace_back();
+  Element.nId = UpperBound(aVt);
   Element.dChainage = dChainage;
   Element.dHeight = dHeight;
 }
@@ -64,18 +65,18 @@ class Generation {
       : m_nTarget(nTarget),
         m_bFromCentre(bFromCentre),
         m_oSup(GetAligmentSup(nSup)),
-        m_aSourceHz(GetAligmentHz(nSource)),
-        m_aSourceVt(GetAligmentVt(nSource)),
-        m_aTargetHz(GetAligmentHz(nTarget)) {}
+        m_SourceHz(GetAligmentHz(nSource)),
+        m_SourceVt(GetAligmentVt(nSource)),
+        m_TargetHz(GetAligmentHz(nTarget)) {}
 
-  const THzElements& SourceHz() const { return m_aSourceHz; }
-  const THzElements& TargetHz() const { return m_aTargetHz; }
+  const THzElements& SourceHz() const { return m_SourceHz.Elements(); }
+  const THzElements& TargetHz() const { return m_TargetHz.Elements(); }
 
   // Appends the sample at a chainage of the source, unless it has no foot on the target.
   void Sample(double dChainage, TVtElements& aVt) {
     double dOffset = 0, dChainPjt = 0;
-    if (!Alg::ProjectChainToAnotherAligment(dChainage, m_aSourceHz, m_aTargetHz, dOffset, dChainPjt)) return;
-    double z = GM::GetHeightAtChainage(m_aSourceVt, dChainage);
+    if (!Alg::ProjectChainToAnotherAligment(dChainage, m_SourceHz, m_TargetHz, dOffset, dChainPjt)) return;
+    double z = m_SourceVt.Height(dChainage);
     if (!m_oSup) Raise(Error::nObjectNotSet);
     if (m_oSup->IsCoplaneTrack())
       m_oSup->CalcHeightVtAligmentCoplane(m_nTarget, dChainPjt, dOffset, z, m_bFromCentre, &m_Radius);
@@ -86,9 +87,9 @@ class Generation {
   int m_nTarget;
   bool m_bFromCentre;
   std::shared_ptr<clsSuperelevation> m_oSup;
-  const THzElements& m_aSourceHz;
-  const TVtElements& m_aSourceVt;
-  const THzElements& m_aTargetHz;
+  Alg::CHzIndex m_SourceHz;
+  Alg::CVtIndex m_SourceVt;
+  Alg::CHzIndex m_TargetHz;
   TRowRadius m_Radius;
 };
 

@@ -1,4 +1,4 @@
-// The text report of a file:
+// The reports and their text:
 //
 //         P.K.<TAB>             X<TAB>             Y<TAB>Description
 //
@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/Failure.h"
+#include "base/Checked.h"
 #include "base/FormatReal.h"
 #include "base/ST.h"
 #include "checks/Reports.h"
@@ -15,13 +15,21 @@
 namespace vrek::CAligmentCheck {
 namespace {
 
-constexpr int nWidth = 14;
+constexpr int nWidth = 14;  // characters
+
+// One for each file noted since InitReports, the last one is the current file's.
+std::vector<TFileReport>& Reports() {
+  static std::vector<TFileReport> aReports;
+  return aReports;
+}
 
 std::string Column(std::string_view sText) {
   return ST::PadRight(sText, nWidth, " ") + "\t";
 }
+// A number beyond the doubles, as a broken side file may hold, says so.
 std::string Column(double dValue) {
-  return Column(FormatReal(dValue, 4));
+  return Column(std::isfinite(dValue) ? FormatReal(dValue, 4)
+                                      : std::string(StandardDescription(Error::nOverflow)));
 }
 std::string Heading(std::string_view sToken) {
   return Column(AppModel().GetToken(sToken));
@@ -57,6 +65,26 @@ bool Fits(EFileKind nKind, std::string_view sNodeKey) {
 }
 
 }  // namespace
+
+void InitReports() {
+  Reports().clear();
+}
+
+void AddReportFile(std::string_view sName, EFileKind nKind) {
+  Reports().push_back({nKind, std::string(sName), std::vector<TCheckError>(1), 0});
+}
+
+TFileReport& CurrentReport() {
+  return Checked::At(Reports(), std::ssize(Reports()) - 1);
+}
+
+void AddReportError(double dChainage, bool bError, double dX, double dY, double dZ, double dDistance,
+                    std::string_view sDescription) {
+  TFileReport& Report = CurrentReport();
+  if (Report.nErrors > 0) Report.Errors.emplace_back();
+  if (bError) ++Report.nErrors;
+  Report.Errors.back() = {dChainage, dX, dY, dZ, dDistance, bError, std::string(sDescription)};
+}
 
 std::string GetReportText(std::string_view sNodeText, std::string_view sNodeKey) {
   const auto& aReports = Reports();
