@@ -47,7 +47,7 @@ class RoadMaker {
     for (int i = 0; i < m_Case.nSections; ++i) {
       TCrSection& Section = Cr.Sections.emplace_back();
       Section.dChainage = 20.0 * i;
-      for (std::uint8_t nLayer : {0, 3}) {
+      for (const std::uint8_t nLayer : {std::uint8_t{0}, std::uint8_t{3}}) {
         TCrSurface& Surface = Section.Surfaces.emplace_back();
         Surface.nLayer = nLayer;
         Surface.Points = Points();

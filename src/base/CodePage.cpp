@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace vrek::CodePage {
 namespace {
@@ -13,10 +14,9 @@ constexpr std::array<std::uint16_t, 32> aHigh = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+// A code point from 0x80 to 0xFFFF.
 void AppendUtf8(std::string& sOut, std::uint32_t nCode) {
-  if (nCode < 0x80) {
-    sOut += static_cast<char>(nCode);
-  } else if (nCode < 0x800) {
+  if (nCode < 0x800) {
     sOut += static_cast<char>(0xC0 | (nCode >> 6));
     sOut += static_cast<char>(0x80 | (nCode & 0x3F));
   } else {
@@ -26,24 +26,65 @@ void AppendUtf8(std::string& sOut, std::uint32_t nCode) {
   }
 }
 
+// Byte of a code point from 0x80 on; "?" without one.
 char ByteOf(std::uint32_t nCode) {
-  if (nCode < 0x80 || (nCode >= 0xA0 && nCode <= 0xFF)) return static_cast<char>(nCode);
+  if (nCode >= 0xA0 && nCode <= 0xFF) return static_cast<char>(nCode);
   const auto it = std::find(aHigh.begin(), aHigh.end(), nCode);
   return it == aHigh.end() ? '?' : static_cast<char>(0x80 + (it - aHigh.begin()));
+}
+
+// How many bytes below 128 stand at the front.
+std::size_t AsciiLength(std::string_view sText) {
+  std::size_t n = 0;
+  for (; n + 8 <= sText.size(); n += 8) {
+    std::uint64_t nBytes = 0;
+    std::memcpy(&nBytes, sText.data() + n, sizeof nBytes);
+    if ((nBytes & 0x8080808080808080) != 0) break;
+  }
+  while (n < sText.size() && static_cast<unsigned char>(sText[n]) < 0x80) ++n;
+  return n;
+}
+
+// Bytes of the character at the front of a text that begins with a byte from 128 on; 0 when it is no UTF-8:
+// broken off, longer than need be, a surrogate or beyond U+10FFFF.
+std::size_t CharacterLength(std::string_view sText) {
+  const auto Byte = [&](std::size_t i) { return static_cast<unsigned char>(sText[i]); };
+  const unsigned nFirst = Byte(0);
+  const std::size_t nLength = nFirst < 0xC2 || nFirst > 0xF4 ? 0 : nFirst < 0xE0 ? 2 : nFirst < 0xF0 ? 3 : 4;
+  if (nLength == 0 || nLength > sText.size()) return 0;
+  for (std::size_t i = 1; i < nLength; ++i) {
+    if ((Byte(i) & 0xC0) != 0x80) return 0;
+  }
+  const unsigned nSecond = Byte(1);
+  const bool bTooLong = (nFirst == 0xE0 && nSecond < 0xA0) || (nFirst == 0xF0 && nSecond < 0x90);
+  const bool bNoCharacter = (nFirst == 0xED && nSecond > 0x9F) || (nFirst == 0xF4 && nSecond > 0x8F);
+  return bTooLong || bNoCharacter ? 0 : nLength;
+}
+
+// Code point of a character of two or three bytes.
+std::uint32_t CodePoint(std::string_view sCharacter) {
+  std::uint32_t nCode = static_cast<unsigned char>(sCharacter[0]) & (0x7Fu >> sCharacter.size());
+  for (const char c : sCharacter.substr(1)) nCode = (nCode << 6) | (static_cast<unsigned char>(c) & 0x3Fu);
+  return nCode;
 }
 
 }  // namespace
 
 bool IsAscii(std::string_view sText) {
-  return std::all_of(sText.begin(), sText.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  return AsciiLength(sText) == sText.size();
 }
 
 std::string ToUtf8(std::string_view sBytes) {
   std::string sOut;
   sOut.reserve(sBytes.size());
-  for (const char c : sBytes) {
-    const auto nByte = static_cast<unsigned char>(c);
-    AppendUtf8(sOut, nByte >= 0x80 && nByte < 0xA0 ? aHigh[nByte - 0x80] : nByte);
+  while (!sBytes.empty()) {
+    const std::size_t nAscii = AsciiLength(sBytes);
+    sOut.append(sBytes, 0, nAscii);
+    sBytes.remove_prefix(nAscii);
+    for (; !sBytes.empty() && static_cast<unsigned char>(sBytes[0]) >= 0x80; sBytes.remove_prefix(1)) {
+      const auto nByte = static_cast<unsigned char>(sBytes[0]);
+      AppendUtf8(sOut, nByte < 0xA0 ? aHigh[nByte - 0x80u] : nByte);
+    }
   }
   return sOut;
 }
@@ -51,24 +92,18 @@ std::string ToUtf8(std::string_view sBytes) {
 std::string FromUtf8(std::string_view sText) {
   std::string sOut;
   sOut.reserve(sText.size());
-  for (std::size_t i = 0; i < sText.size();) {
-    const auto nByte = static_cast<unsigned char>(sText[i]);
-    const std::size_t nLen = nByte < 0x80 ? 1 : nByte >= 0xF0 && nByte < 0xF5 ? 4 : nByte >= 0xE0 ? 3 : nByte >= 0xC2 ? 2 : 0;
-    bool bWhole = nLen > 0 && nByte < 0xF5 && i + nLen <= sText.size();
-    for (std::size_t k = 1; bWhole && k < nLen; ++k) bWhole = (sText[i + k] & 0xC0) == 0x80;
-    if (!bWhole) {
-      sOut += '?';
-      ++i;
-      continue;
-    }
-    if (nLen == 4) {
+  while (!sText.empty()) {
+    const std::size_t nAscii = AsciiLength(sText);
+    sOut.append(sText, 0, nAscii);
+    sText.remove_prefix(nAscii);
+    if (sText.empty()) break;
+    const std::size_t nLength = CharacterLength(sText);
+    if (nLength == 4) {
       sOut += "??";
     } else {
-      std::uint32_t nCode = nLen == 1 ? nByte : nByte & (0x7Fu >> nLen);
-      for (std::size_t k = 1; k < nLen; ++k) nCode = (nCode << 6) | (sText[i + k] & 0x3Fu);
-      sOut += ByteOf(nCode);
+      sOut += nLength == 0 ? '?' : ByteOf(CodePoint(sText.substr(0, nLength)));
     }
-    i += nLen;
+    sText.remove_prefix(std::max<std::size_t>(nLength, 1));
   }
   return sOut;
 }

@@ -6,6 +6,8 @@ namespace vrek {
 inline constexpr double dNotGiven = -9999999.9999;
 
 /// True unless the value is the mark, compared for exact equality.
-inline bool IsGiven(double dValue) { return dValue != dNotGiven; }
+inline bool IsGiven(double dValue) {
+  return dValue != dNotGiven;
+}
 
 }  // namespace vrek

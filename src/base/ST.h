@@ -13,7 +13,7 @@ namespace vrek {
 struct TToken {
   std::string_view sText;
   int nStart = 0;  ///< position of its first character in the line, from 1
-  int nEnd = 0;    ///< ScanTokens: position of its last character; SplitBySeparator: of the separator behind it
+  int nEnd = 0;  ///< ScanTokens: position of its last character; SplitBySeparator: of the separator behind it
 };
 
 /// Fields from index 1; element 0 is present and unused.
@@ -33,7 +33,8 @@ double ParseReal(std::string_view sText);
 /// the other one separates thousands and goes. 1.234,50 becomes 1234.50; 1,234 becomes 1.234.
 void NormalizeNumberText(std::string& sText);
 
-/// A chainage, plain or as kilometres and metres (12+345.678 is 12345.678), in metres. Trims the text in place.
+/// A chainage, plain or as kilometres and metres (12+345.678 is 12345.678), in metres. Trims the text in
+/// place. Kilometres and metres beyond the doubles: failure 6.
 double ParseChainage(std::string& sText);
 
 /// True when the trimmed text has a digit and nothing but digits and "+,-.".
@@ -45,7 +46,8 @@ void ScanTokens(std::string_view sLine, char cSeparator, int& nCount, TTokens& a
 
 /// Every separator ends a field. Stores at most nLimit + 1 fields and lowers nLimit to their count; with
 /// bSkipEmpty an empty field isn't stored.
-void SplitBySeparator(std::string_view sLine, char cSeparator, int& nLimit, TTokens& aTokens, bool bSkipEmpty);
+void SplitBySeparator(std::string_view sLine, char cSeparator, int& nLimit, TTokens& aTokens,
+                      bool bSkipEmpty);
 
 /// The next line of a whole text: from nPos (from 1) up to the next CR, which stays for the line after; so
 /// every line but the first begins with the CR and LF before it. bEnd and "" at the end of the text; a last

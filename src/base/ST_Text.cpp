@@ -42,7 +42,8 @@ int CountOccurrences(std::string_view sText, std::string_view sSought) {
 
 std::string PadRight(std::string_view sText, int nWidth, std::string_view sPad) {
   const auto sTrimmed = Trim(sText);
-  const auto nCharacters = std::count_if(sTrimmed.begin(), sTrimmed.end(), [](char c) { return (c & 0xC0) != 0x80; });
+  const auto nCharacters =
+      std::count_if(sTrimmed.begin(), sTrimmed.end(), [](char c) { return (c & 0xC0) != 0x80; });
   std::string sOut;
   for (auto n = nCharacters; n < nWidth; ++n) sOut += sPad;
   return sOut.append(sTrimmed);

@@ -19,19 +19,22 @@ void ScanTokens(std::string_view sLine, char cSeparator, int& nCount, TTokens& a
     while (nStart <= sLine.size() && sLine[nStart - 1] == cSeparator) ++nStart;
     const auto nNext = nStart > sLine.size() ? sLine.npos : sLine.find(cSeparator, nStart - 1);
     nEnd = nNext == sLine.npos ? nScanWidth : nNext;
-    aTokens.push_back({nStart > sLine.size() ? std::string_view{} : sLine.substr(nStart - 1, nEnd - nStart + 1),
-                       static_cast<int>(nStart), static_cast<int>(nEnd)});
+    aTokens.push_back(
+        {nStart > sLine.size() ? std::string_view{} : sLine.substr(nStart - 1, nEnd - nStart + 1),
+         static_cast<int>(nStart), static_cast<int>(nEnd)});
     ++nCount;
   }
 }
 
-void SplitBySeparator(std::string_view sLine, char cSeparator, int& nLimit, TTokens& aTokens, bool bSkipEmpty) {
+void SplitBySeparator(std::string_view sLine, char cSeparator, int& nLimit, TTokens& aTokens,
+                      bool bSkipEmpty) {
   aTokens.resize(1);
   int nCount = 0;
-  for (std::size_t i = 0;;) {
+  for (std::size_t i = 0; nCount <= nLimit;) {
     const std::size_t nSeparator = std::min(sLine.find(cSeparator, i), sLine.size());
-    if (nCount <= nLimit && !(bSkipEmpty && nSeparator == i)) {
-      aTokens.push_back({sLine.substr(i, nSeparator - i), static_cast<int>(i + 1), static_cast<int>(nSeparator + 1)});
+    if (!bSkipEmpty || nSeparator > i) {
+      aTokens.push_back(
+          {sLine.substr(i, nSeparator - i), static_cast<int>(i + 1), static_cast<int>(nSeparator + 1)});
       ++nCount;
     }
     if (nSeparator == sLine.size()) break;

@@ -89,6 +89,9 @@ THzPoint MirrorPoint(const THzPoint& LinePoint1, const THzPoint& LinePoint2, con
 /// an empty array 0. Carries on over any fault.
 double GetHeightAtChainage(const TVtElements& aVt, double dChainage);
 
+/// The same from a known element; any fault, also a number outside the array, gives 0.
+double GetHeightFromElement(const TVtElements& aVt, int nElement, double dChainage);
+
 /// Height at a distance from the element's start.
 double GetHeightInElement(const TVtElement& Element, double dDistance);
 

@@ -18,7 +18,8 @@ class IOutputFile {
   virtual void Close() = 0;
 };
 
-/// The file itself, created or truncated. Failures: 70 permission, 76 no such folder, 61 disk full, 75 any other.
+/// The file itself, created or truncated. Failures: 70 permission, 76 no such folder, 61 disk full, 75 any
+/// other.
 std::unique_ptr<IOutputFile> CreateOutputFile(const std::string& sPath);
 
 }  // namespace vrek

@@ -1,4 +1,5 @@
-// RTF to plain text: one text for a whole file, each paragraph ended by CR LF, table cells and tab stops as Tab.
+// RTF to plain text: one text for a whole file. A paragraph or a row of a table ends in CR LF, a cell in a
+// Tab; a tab stop is a Tab.
 #pragma once
 
 #include <string>
@@ -6,8 +7,8 @@
 
 namespace vrek {
 
-/// The text of an RTF document, UTF-8. What doesn't begin with "{\rtf" is plain text in the code page, its line
-/// ends becoming CR LF. Broken input gives what could be read; never a failure.
+/// The text of an RTF document, UTF-8. What doesn't begin with "{\rtf" is plain text in the code page, its
+/// line ends becoming CR LF. Broken input gives what could be read, never a failure.
 std::string RtfToText(std::string_view sBytes);
 
 /// RtfToText of a file. Failures as CTextFile.

@@ -1,5 +1,6 @@
 // A text file, read whole, handed out line by line as bytes of the code page. A line ends at CR or CR LF, and
-// neither is part of it; a lone LF ends nothing. A file that holds LF but no CR at all ends its lines with LF.
+// neither is part of it; a lone LF ends nothing. A file that holds LF but no CR at all ends its lines with
+// LF.
 #pragma once
 
 #include <cstddef>
@@ -10,10 +11,12 @@ namespace vrek {
 
 class CTextFile {
  public:
-  /// Reads the file. Failures: 53 not found, 70 no permission, 76 no such folder, 75 any other (a folder, say).
+  /// Reads the file. Failures: 53 not found, 70 no permission, 76 no such folder, 75 any other (a folder,
+  /// say).
   explicit CTextFile(const std::string& sPath);
 
-  /// True as soon as the last line has been read, with or without a line end behind it; of an empty file, at once.
+  /// True as soon as the last line has been read, with or without a line end behind it; of an empty file, at
+  /// once.
   bool AtEnd() const { return m_nPos >= m_sBytes.size(); }
 
   /// The next line; the view lives as long as this object. At the end: failure 62.

@@ -1,7 +1,6 @@
 #include "records/CrossSections.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include "base/ST.h"
 
@@ -22,38 +21,32 @@ int TCodes::CountBeginning(std::string_view sOffsetText) const {
 }
 
 TCode TCodes::Append(std::string_view sText) {
+  const int nMade = size();
   m_aTexts.emplace_back(sText);
-  const auto nIndex = static_cast<std::uint32_t>(m_aTexts.size());
-  m_Index.emplace(m_aTexts.back(), nIndex);
+  m_aPlaces.push_back(nMade);
+  m_aOrder.push_back(nMade);
+  const TCode sCode{static_cast<std::uint32_t>(nMade) + 1};
+  m_Index.emplace(m_aTexts.back(), sCode.nIndex);
   ++m_Beginning[std::string(sText.substr(0, sText.find('_')))];
-  m_aPlaces.clear();
-  m_aOrder.clear();
-  return TCode{nIndex};
+  return sCode;
 }
 
 int TCodes::Place(TCode sCode) const {
-  const int nMade = static_cast<int>(sCode.nIndex) - 1;
-  return nMade < 0 || m_aPlaces.empty() ? nMade : m_aPlaces[static_cast<std::size_t>(nMade)];
+  return sCode.empty() ? -1 : m_aPlaces.at(sCode.nIndex - 1);
 }
 
 std::string_view TCodes::TextAt(int nPlace) const {
-  const auto n = static_cast<std::size_t>(nPlace);
-  return m_aTexts.at(m_aOrder.empty() ? n : static_cast<std::size_t>(m_aOrder.at(n)));
+  return m_aTexts.at(static_cast<std::size_t>(m_aOrder.at(static_cast<std::size_t>(nPlace))));
 }
 
 void TCodes::SortByValue() {
-  std::vector<double> aValues;
-  aValues.reserve(m_aTexts.size());
-  for (const auto& sText : m_aTexts) aValues.push_back(ST::ParseReal(sText));
-  if (m_aOrder.empty()) {
-    m_aOrder.resize(m_aTexts.size());
-    std::iota(m_aOrder.begin(), m_aOrder.end(), 0);
-  }
+  std::vector<double> aValues(m_aTexts.size());
+  std::transform(m_aTexts.begin(), m_aTexts.end(), aValues.begin(), ST::ParseReal);
   std::stable_sort(m_aOrder.begin(), m_aOrder.end(), [&](int a, int b) {
     return aValues[static_cast<std::size_t>(a)] < aValues[static_cast<std::size_t>(b)];
   });
-  m_aPlaces.resize(m_aOrder.size());
-  for (std::size_t n = 0; n < m_aOrder.size(); ++n) m_aPlaces[static_cast<std::size_t>(m_aOrder[n])] = static_cast<int>(n);
+  for (int n = 0; n < size(); ++n)
+    m_aPlaces[static_cast<std::size_t>(m_aOrder[static_cast<std::size_t>(n)])] = n;
 }
 
 }  // namespace vrek

@@ -19,7 +19,7 @@ struct TCode {
   friend bool operator==(TCode, TCode) = default;
 };
 
-/// Every code given out so far in a layer, in the order of making until Sort.
+/// Every code given out so far in a layer. A code made after SortByValue takes the place behind all others.
 class TCodes {
  public:
   bool empty() const { return m_aTexts.empty(); }
@@ -48,8 +48,8 @@ class TCodes {
 
  private:
   std::vector<std::string> m_aTexts;                       // by order of making
-  std::vector<int> m_aPlaces;                              // by order of making; empty until sorted
-  std::vector<int> m_aOrder;                               // by place; empty until sorted
+  std::vector<int> m_aPlaces;                              // by order of making: the place
+  std::vector<int> m_aOrder;                               // by place: 0-based number in order of making
   std::unordered_map<std::string, std::uint32_t> m_Index;  // text to 1 + index
   std::unordered_map<std::string, int> m_Beginning;        // offset text to count
 };

@@ -12,12 +12,13 @@ namespace vrek {
 
 /// One element of a horizontal alignment, from its own start to the start of the following element.
 struct THzElement {
-  std::int32_t nId = 0;   ///< sequence number, from 1
-  double dChainage = 0;   ///< of the start
+  std::int32_t nId = 0;  ///< sequence number, from 1
+  double dChainage = 0;  ///< of the start
   double dX = 0;
   double dY = 0;
-  double dAzimuth = 0;    ///< at the start, gon (radians in working copies that say so)
-  double dRadius = 0;     ///< 0: straight. Positive turns right. On a spiral the radius at its start; 0.001 is infinite
+  double dAzimuth = 0;  ///< at the start, gon (radians in working copies that say so)
+  double dRadius =
+      0;  ///< 0: straight. Positive turns right. On a spiral the radius at its start; 0.001 is infinite
   double dParameter = 0;  ///< 0: straight or arc; A of a clothoid; negative: a cubic spiral
   double dLength = 0;
 };
@@ -28,8 +29,8 @@ struct TVtElement {
   double dChainage = 0;  ///< of the start
   double dHeight = 0;    ///< of the start
   double dSlope = 0;     ///< gradient at the start
-  double dKv = 0;        ///< 0: straight grade; else the curve's signed parameter: negative crest, positive sag
-  double dLength = 0;    ///< along the chainage; negative marks a circular vertical curve
+  double dKv = 0;      ///< 0: straight grade; else the curve's signed parameter: negative crest, positive sag
+  double dLength = 0;  ///< along the chainage; negative marks a circular vertical curve
 };
 
 static_assert(std::is_trivially_copyable_v<THzElement>);

@@ -18,10 +18,11 @@ char SideLetter(std::string_view sCode) {
 // "-3.500_2" at place 1 of layer 3: L1:3. By handle; the empty handle has no label.
 std::vector<std::string> MakeLabels(const TCodes& aCodes, std::size_t nLayer) {
   std::vector<std::string> aLabels(static_cast<std::size_t>(aCodes.size()) + 1);
-  const std::string sLayer = ":" + std::to_string(nLayer);
+  const std::string sLayer = std::string(1, ':').append(std::to_string(nLayer));
   for (std::uint32_t n = 1; n < aLabels.size(); ++n) {
     const TCode sCode{n};
-    aLabels[n] = SideLetter(aCodes.Text(sCode)) + std::to_string(aCodes.Place(sCode)) + sLayer;
+    aLabels[n] = SideLetter(aCodes.Text(sCode));
+    aLabels[n].append(std::to_string(aCodes.Place(sCode))).append(sLayer);
   }
   return aLabels;
 }
