@@ -359,7 +359,9 @@ def make_double():
 
     def cant(plan):
         c = [start[0] for start in plan.starts]
-        return cant_table([(c[0] + 1, 0), (c[1], 0), (c[2], 110), (c[3], 110), (c[4], 0), (c[5] - 1, 0)], 1.435, 1.5, True,
+        # A table is held against the axis' profile, and the outer track is the longer one.
+        last = min(c[5], axis.end) - 1
+        return cant_table([(c[0] + 1, 0), (c[1], 0), (c[2], 110), (c[3], 110), (c[4], 0), (last, 0)], 1.435, 1.5, True,
                           "leftRail")
 
     for name, plan in (("Axis", axis), ("Left track", left), ("Right track", right)):

@@ -200,7 +200,7 @@ void CConversion::KeepSummary() {
       if (sLabel.empty()) continue;
       PageResult.aRows.push_back({nRow, sLabel, Result.GetValue(nPage, nRow), Result.GetUnit(nPage, nRow)});
     }
-    if (!PageResult.aRows.empty()) m_Outcome.aSummary.push_back(std::move(PageResult));
+    m_Outcome.aSummary.push_back(std::move(PageResult));
   }
 }
 

@@ -26,7 +26,8 @@ bool OpenFile();
 void CloseFile();
 /// Whether a file is open.
 bool IsOpen();
-/// Whether every line of the document, up to now, went to the file.
+/// Whether every line of the document, up to now, went to the file; what the file still gathers is known for
+/// sure behind TagLandXML(true) and CloseFile. False from SetOutputFile until a file is open.
 bool WroteWhole();
 /// Current element depth.
 int Tabs();
@@ -34,6 +35,8 @@ int Tabs();
 bool WriteLn(std::string_view sText);
 bool WriteTabbed(std::string_view sText);
 
+/// Opens the file first where none is open. Closing hands all that was gathered to the disk: a full one shows
+/// here.
 bool TagLandXML(bool bClose);
 bool TagApplication(std::string_view sCreator);
 bool TagProject(std::string_view sName, std::string_view sDescription);
@@ -47,8 +50,11 @@ bool TagCrossSectSurf(bool bClose, std::string_view sName);
 bool TagFeature(bool bClose, std::string_view sCode, std::string_view sValue);
 bool TagProperty(std::string_view sLabel, std::string_view sValue);
 
-/// Plan of an axis; limits in metres or dNotGiven. Gives the first chainage written and the end of the last
-/// element.
+// Plans and profiles. Limits in metres or dNotGiven; they choose elements, which are never cut. The output
+// chainages are the start of the first element written and the end of the last (0 when the limits leave
+// none). No element above index 0: nothing is written, false for a plan, true for a profile.
+
+/// Plan of an axis. A failure leaves the elements before it in the file, and nothing of the one in hand.
 bool TagCoordGeom(double& dOutStart, double& dOutEnd, const THzElements& aHz, double dChStart, double dChEnd);
 /// Plan of a stringline: blocks of at most 25 points.
 bool TagCoordGeomIrrLn(double& dOutStart, double& dOutEnd, const THzElements& aHz, double dChStart,

@@ -1,5 +1,4 @@
 // The open file, the depth, and the frame of the document: root, Application, Project, Units.
-#include <cstdlib>
 #include <ctime>
 #include <memory>
 #include <utility>

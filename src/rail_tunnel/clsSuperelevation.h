@@ -10,6 +10,8 @@
 
 namespace vrek {
 
+struct TXmlElement;
+
 /// The point about which the track rotates.
 enum class ERotationPoint {
   eGivenByRails = 0,
@@ -64,14 +66,26 @@ class clsSuperelevation {
   const std::vector<TCantStation>& Stations() const { return m_aStations; }
 
  private:
+  /// What ComputeRails fills.
+  struct TRails {
+    double dDist2CL = 0;
+    double dHeightLeft = 0;
+    double dHeightRight = 0;
+  };
+
   int FindStation(double dChainage) const;
   static ERotationPoint GetRotationPoint(std::string_view sText);
+  void ReadRow(const TXmlElement& Row, bool bSingle);
+  TCantStation Interpolated(int i, double dChainage) const;
+  void WriteSection(double s, std::string_view sName, int nAligment, std::string_view sStringLine,
+                    TRails& Rails, double& rChainageEnd) const;
 
   double m_dGauge = 0;
   double m_dSuperelevationBase = 0;
   ERotationPoint m_eRotationPoint = ERotationPoint::eGivenByRails;
   bool m_bCoPlane = false;
   std::vector<TCantStation> m_aStations;  // from 0, in the order of the file
+  bool m_bInOrder = false;                // the stations never fall back
 };
 
 }  // namespace vrek

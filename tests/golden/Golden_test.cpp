@@ -65,6 +65,7 @@ json Digest(const json& Outcome) {
     if (File["mark"] == 2) Out["reports"][sKey] = File["report"];
   }
   for (const auto& Page : Outcome["summary"]) {
+    Out["rows"][std::to_string(int{Page["page"]})] = json::object();
     for (const auto& Row : Page["rows"]) {
       Out["rows"][std::to_string(int{Page["page"]})][std::to_string(int{Row["row"]})] = Row["value"];
     }
