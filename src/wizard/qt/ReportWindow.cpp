@@ -2,15 +2,15 @@
 
 #include <QClipboard>
 #include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QVBoxLayout>
 
+#include "shell/AppModel.h"
 #include "shell/ErrHandler.h"
 #include "wizard/qt/Marks.h"
+#include "wizard/qt/SaveBytes.h"
 #include "wizard/qt/View.h"
 
 namespace vrek::qt {
@@ -23,13 +23,6 @@ QFont FixedPitchFont() {
   Font.setStyleHint(QFont::Monospace);
   Font.setFixedPitch(true);
   return Font;
-}
-
-void SaveText(const QString& sPath, const std::string& sText) {
-  QSaveFile File(sPath);
-  const auto nSize = static_cast<qint64>(sText.size());
-  if (File.open(QIODevice::WriteOnly) && File.write(sText.data(), nSize) == nSize && File.commit()) return;
-  Raise(Error::nPathFileAccess, Text(sPath + "\n" + File.errorString()), "SaveReport");
 }
 
 }  // namespace
@@ -85,10 +78,8 @@ void ReportWindow::Copy() {
 }
 
 void ReportWindow::Save() {
-  const auto sPath = QFileDialog::getSaveFileName(this, Word("WIN_SAVE_REPORT", "Save the report"),
-                                                  windowTitle() + ".txt", "(*.txt)");
-  if (sPath.isEmpty()) return;
-  TopLevel([&] { SaveText(sPath, m_Report.txtReport); });
+  const auto sPath = AppModel().Platform().pDialogs->SaveFile("(*.txt)|*.txt", m_Report.Title + ".txt");
+  if (!sPath.empty()) TopLevel([&] { SaveBytes(sPath, m_Report.txtReport); });
 }
 
 }  // namespace vrek::qt

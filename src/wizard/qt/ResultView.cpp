@@ -1,17 +1,27 @@
 #include "wizard/qt/ResultView.h"
 
 #include <QGridLayout>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include "wizard/qt/View.h"
 
 namespace vrek::qt {
 
-ResultView::ResultView(ctlResult& Control, QWidget* pParent)
-    : PageView(pParent), m_Control(Control), m_pFrame(new QGroupBox(this)) {
+ResultView::ResultView(ctlResult& Control, std::function<TPreview()> MakePreview, QWidget* pParent)
+    : PageView(pParent),
+      m_Control(Control),
+      m_MakePreview(std::move(MakePreview)),
+      m_pFrame(new QGroupBox(this)) {
   auto* pLayout = new QVBoxLayout(this);
   pLayout->addWidget(MakeRows());
-  pLayout->addStretch(1);
+  pLayout->addWidget(m_pPreview = new PreviewView(this), 1);
+}
+
+// A page that comes into view shows what has just been written.
+void ResultView::showEvent(QShowEvent* pEvent) {
+  if (!pEvent->spontaneous()) m_pPreview->Show(m_MakePreview());
+  PageView::showEvent(pEvent);
 }
 
 QWidget* ResultView::MakeRows() {

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "wizard/PreviewOf.h"
 #include "wizard/qt/DetailsView.h"
 #include "wizard/qt/ExportingView.h"
 #include "wizard/qt/ImportingView.h"
@@ -35,10 +36,14 @@ QFrame* HorizontalLine(QWidget* pParent) {
 void WizardWindow::MakePages() {
   m_pStack = new QStackedWidget(this);
   m_pFiles = new FilesView(m_Wizard.ctlFiles);
-  m_aPages = {new JobView(m_Wizard.ctlJobType),         m_pFiles,
-              new DetailsView(m_Wizard.ctlDetails),     new PreferencesView(m_Wizard.ctlPreferences),
-              new ImportingView(m_Wizard.ctlImporting), new ExportingView(m_Wizard.ctlExporting),
-              new ResultView(m_Wizard.ctlResult),       new SelectStrLnView(m_Wizard.ctlSelectStrLn)};
+  m_aPages = {new JobView(m_Wizard.ctlJobType),
+              m_pFiles,
+              new DetailsView(m_Wizard.ctlDetails),
+              new PreferencesView(m_Wizard.ctlPreferences),
+              new ImportingView(m_Wizard.ctlImporting),
+              new ExportingView(m_Wizard.ctlExporting),
+              new ResultView(m_Wizard.ctlResult, [this] { return PreviewOf(m_Wizard); }),
+              new SelectStrLnView(m_Wizard.ctlSelectStrLn)};
   for (auto* pPage : m_aPages) {
     m_pStack->addWidget(pPage);
     connect(pPage, &PageView::Used, this, &WizardWindow::Render);
