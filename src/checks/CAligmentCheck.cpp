@@ -9,9 +9,22 @@
 #include "shell/ErrHandler.h"
 
 namespace vrek::CAligmentCheck {
+
 namespace {
 
-// Where element i of a plan ends, by its own geometry; the next one's radius is that at a clothoid's end.
+constexpr std::string_view sNoLength = "Invalid element lenght";
+
+// A body that ends quietly on a failure; what it found until then stays in the report.
+template <class TResult, class TBody>
+TResult Quietly(TResult Fallback, TBody&& Body) {
+  try {
+    return Body();
+  } catch (...) {
+    return Fallback;
+  }
+}
+
+// Where element i of an alignment ends by its own values.
 THzPoint EndOfElement(const THzElements& aHz, int i) {
   const THzElement Element = Alg::InRadians(Checked::At(aHz, i));
   const THzElement& Next = Checked::At(aHz, i + 1);
@@ -23,92 +36,76 @@ THzPoint EndOfElement(const THzElements& aHz, int i) {
     case Alg::eClothoid:
       return Alg::GetPointOnClothoid(Element.dLength, std::fabs(Next.dRadius), Element);
     default:
-      break;
-  }
-  const bool bFromStart = Checked::At(aHz, i - 1).dRadius == 0;
-  return Alg::GetPointOnCubicSpiral(std::fabs(Element.dParameter), bFromStart, Element, Next);
-}
-
-void CheckClothoidLengths(const THzElements& aHz) {
-  for (int i = 1; i <= UpperBound(aHz); ++i) {
-    const THzElement& Element = Checked::At(aHz, i);
-    if (Element.dLength != 0 || Element.dParameter == 0) continue;
-    AddReportError(Element.dChainage, true, dNotGiven, dNotGiven, dNotGiven, dNotGiven,
-                   "Invalid element lenght");
+      return Alg::GetPointOnCubicSpiral(std::fabs(Element.dParameter), Checked::At(aHz, i - 1).dRadius == 0,
+                                        Element, Next);
   }
 }
 
 void CheckMeeting(const THzElements& aHz, int i, double dTolerance) {
   const THzPoint End = EndOfElement(aHz, i);
   const THzElement& Next = Checked::At(aHz, i + 1);
-  const double dX = End.dX - Next.dX, dY = End.dY - Next.dY;
+  const double dX = End.dX - Next.dX;
+  const double dY = End.dY - Next.dY;
   const double dDistance = Checked::Sqrt(dX * dX + dY * dY);
-  if (dDistance > dTolerance) {
+  if (dDistance > dTolerance)
     AddReportError(Next.dChainage, true, dX, dY, dNotGiven, dDistance, AppModel().GetToken("E_TOLE_HZ"));
-  }
 }
 
-// Runs a check that ends quietly on a failure; what it has found so far stays.
-template <class TBody>
-bool Quietly(TBody&& Body) {
-  try {
-    Body();
-    return true;
-  } catch (...) {
-    return false;
-  }
-}
-
-bool CheckRange(const TVtElements& aVt, const std::vector<double>& aChainages, const char* sToken) {
-  bool bWrong = false;
-  Quietly([&] {
+// Adds a finding for each chainage outside the vertical alignment. Both its ends are inside.
+bool CheckInside(const TVtElements& aVt, const std::vector<double>& aChainages, std::string_view sToken) {
+  return Quietly(false, [&] {
     double dStart = 0, dEnd = 0;
-    if (UpperBound(aVt) >= 1) {
+    if (UpperBound(aVt) > 0) {
       dStart = aVt[1].dChainage;
-      dEnd = aVt.back().dChainage + aVt.back().dLength;
+      dEnd = Checked::Finite(aVt.back().dChainage + aVt.back().dLength);
     }
-    for (const double d : aChainages) {
-      if (d >= dStart && d <= dEnd) continue;
-      AddReportError(d, true, dNotGiven, dNotGiven, dNotGiven, dNotGiven, AppModel().GetToken(sToken));
+    for (const double dChainage : aChainages) {
+      if (dChainage < dStart || dChainage > dEnd)
+        AddReportError(dChainage, true, dNotGiven, dNotGiven, dNotGiven, dNotGiven,
+                       AppModel().GetToken(sToken));
     }
-    bWrong = CurrentReport().nErrors != 0;
+    return CurrentReport().nErrors != 0;
   });
-  return bWrong;
 }
 
 }  // namespace
 
 int CheckHz(const THzElements& aHz, double dTolerance) {
   return Guard("CheckHz", 0, [&] {
-    CheckClothoidLengths(aHz);
+    // 1. clothoids of no length
+    for (int i = 1; i <= UpperBound(aHz); ++i) {
+      const THzElement& Element = Checked::At(aHz, i);
+      if (Element.dLength == 0 && Element.dParameter != 0)
+        AddReportError(Element.dChainage, true, dNotGiven, dNotGiven, dNotGiven, dNotGiven, sNoLength);
+    }
+    // 2. does each element end where the next one starts?
     for (int i = 1; i < UpperBound(aHz); ++i) CheckMeeting(aHz, i, dTolerance);
     return CurrentReport().nErrors;
   });
 }
 
 int CheckVt(const TVtElements& aVt, double dTolerance) {
-  int nErrors = 0;
-  Quietly([&] {
+  return Quietly(0, [&] {
     for (int i = 1; i < UpperBound(aVt); ++i) {
       const TVtElement& Element = Checked::At(aVt, i);
-      const TVtElement& Next = Checked::At(aVt, i + 1);
       if (Element.dKv == 0) continue;
-      const double dZ = std::fabs(GM::GetHeightInElement(Element, Element.dLength) - Next.dHeight);
-      if (!(dZ > dTolerance)) continue;
-      AddReportError(Next.dChainage, true, dNotGiven, dNotGiven, dZ, dNotGiven,
-                     AppModel().GetToken("E_TOLE_VT"));
+      const TVtElement& Next = Checked::At(aVt, i + 1);
+      const double dHeight = GM::GetHeightInElement(Element, Element.dLength);
+      const double dDifference = Checked::Finite(std::fabs(dHeight - Next.dHeight));
+      if (dDifference > dTolerance)
+        AddReportError(Next.dChainage, true, dNotGiven, dNotGiven, dDifference, dNotGiven,
+                       AppModel().GetToken("E_TOLE_VT"));
     }
-    nErrors = CurrentReport().nErrors;
+    return CurrentReport().nErrors;
   });
-  return nErrors;
 }
 
 bool CheckTunnel(const TVtElements& aVt, const std::vector<double>& aChainages) {
-  return CheckRange(aVt, aChainages, "E_TOLE_TUNNEL");
+  return CheckInside(aVt, aChainages, "E_TOLE_TUNNEL");
 }
 
 bool CheckSuperelevation(const TVtElements& aVt, const std::vector<double>& aChainages) {
-  return !aVt.empty() && CheckRange(aVt, aChainages, "E_TOLE_SUPERELV");
+  return !aVt.empty() && CheckInside(aVt, aChainages, "E_TOLE_SUPERELV");
 }
 
 }  // namespace vrek::CAligmentCheck

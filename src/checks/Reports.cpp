@@ -1,106 +1,100 @@
-// The reports and their text.
+// The reports and their text:
 //
-//          Chainage	             X	             Y	Description
+//         P.K.<TAB>             X<TAB>             Y<TAB>Description
 //
-//          120.0000	        0.3500	       -0.0000	Elements don't meet
-#include "checks/Reports.h"
-
+//     500.0000<TAB>        0.0120<TAB>       -0.0034<TAB>The elements don't meet
 #include <algorithm>
+#include <cmath>
 
 #include "base/Checked.h"
 #include "base/FormatReal.h"
 #include "base/ST.h"
+#include "checks/Reports.h"
 #include "shell/AppModel.h"
 
 namespace vrek::CAligmentCheck {
 namespace {
 
-constexpr int nColumn = 14;  // characters
+constexpr int nWidth = 14;  // characters
 
-struct TReports {
-  std::vector<TFileReport> aFiles{1};  // one unused record while nCurrent is -1
-  int nCurrent = -1;                   // index of the file noted last
-};
-
-TReports& Reports() {
-  static TReports All;
-  return All;
+// One for each file noted since InitReports, the last one is the current file's.
+std::vector<TFileReport>& Reports() {
+  static std::vector<TFileReport> aReports;
+  return aReports;
 }
 
 std::string Column(std::string_view sText) {
-  return ST::PadRight(sText, nColumn, " ");
+  return ST::PadRight(sText, nWidth, " ") + "\t";
 }
+// A number beyond the doubles, as a broken side file may hold, says so.
 std::string Column(double dValue) {
-  return Column(FormatReal(dValue, 4));
+  return Column(std::isfinite(dValue) ? FormatReal(dValue, 4)
+                                      : std::string(StandardDescription(Error::nOverflow)));
 }
-std::string HeadColumn(const char* sToken) {
+std::string Heading(std::string_view sToken) {
   return Column(AppModel().GetToken(sToken));
 }
 
-// The last heading is filled on its right.
-std::string LastHead() {
-  auto sHead = AppModel().GetToken("E_DESCRIPTION");
+// Filled with blanks on the right; a longer text stays whole.
+std::string LastHeading(std::string sText) {
   const auto nCharacters =
-      std::count_if(sHead.begin(), sHead.end(), [](char c) { return (c & 0xC0) != 0x80; });
-  if (nCharacters < nColumn) sHead.append(static_cast<std::size_t>(nColumn - nCharacters), ' ');
-  return sHead;
+      std::count_if(sText.begin(), sText.end(), [](char c) { return (c & 0xC0) != 0x80; });
+  if (nCharacters < nWidth) sText.append(static_cast<std::size_t>(nWidth - nCharacters), ' ');
+  return sText;
 }
 
 std::string HeadLine(EFileKind nKind) {
-  std::string sLine = HeadColumn("E_CH") + "\t";
-  if (nKind == EFileKind::eHorizontal) sLine += HeadColumn("E_X") + "\t" + HeadColumn("E_Y") + "\t";
-  if (nKind == EFileKind::eVertical) sLine += HeadColumn("E_Z") + "\t";
-  return sLine + LastHead();
+  std::string sLine = Heading("E_CH");
+  if (nKind == EFileKind::eHorizontal) sLine += Heading("E_X") + Heading("E_Y");
+  if (nKind == EFileKind::eVertical) sLine += Heading("E_Z");
+  return sLine + LastHeading(AppModel().GetToken("E_DESCRIPTION"));
 }
 
 std::string ErrorLine(EFileKind nKind, const TCheckError& Error) {
-  std::string sLine = Column(Error.dChainage) + "\t";
-  if (nKind == EFileKind::eHorizontal) sLine += Column(Error.dX) + "\t" + Column(Error.dY) + "\t";
-  if (nKind == EFileKind::eVertical) sLine += Column(Error.dZ) + "\t";
+  std::string sLine = Column(Error.dChainage);
+  if (nKind == EFileKind::eHorizontal) sLine += Column(Error.dX) + Column(Error.dY);
+  if (nKind == EFileKind::eVertical) sLine += Column(Error.dZ);
   return sLine + Error.sDescription;
 }
 
-bool Fits(EFileKind nKind, std::string_view sKey) {
-  if (sKey.ends_with("Hz")) return nKind == EFileKind::eHorizontal;
-  if (sKey.ends_with("Vt")) return nKind == EFileKind::eVertical;
-  return sKey.ends_with("Cr") && nKind != EFileKind::eHorizontal && nKind != EFileKind::eVertical;
+// Whether a file of a kind stands behind a node with this key.
+bool Fits(EFileKind nKind, std::string_view sNodeKey) {
+  if (sNodeKey.ends_with("Hz")) return nKind == EFileKind::eHorizontal;
+  if (sNodeKey.ends_with("Vt")) return nKind == EFileKind::eVertical;
+  return sNodeKey.ends_with("Cr") && nKind != EFileKind::eHorizontal && nKind != EFileKind::eVertical;
 }
 
 }  // namespace
 
 void InitReports() {
-  Reports() = {};
-  Reports().aFiles.front().Errors.resize(1);
+  Reports().clear();
 }
 
 void AddReportFile(std::string_view sName, EFileKind nKind) {
-  auto& All = Reports();
-  if (All.nCurrent >= 0) All.aFiles.emplace_back();
-  All.aFiles.back() = {nKind, std::string(sName), std::vector<TCheckError>(1), 0};
-  ++All.nCurrent;
+  Reports().push_back({nKind, std::string(sName), std::vector<TCheckError>(1), 0});
 }
 
 TFileReport& CurrentReport() {
-  return Checked::At(Reports().aFiles, Reports().nCurrent);
+  return Checked::At(Reports(), std::ssize(Reports()) - 1);
 }
 
 void AddReportError(double dChainage, bool bError, double dX, double dY, double dZ, double dDistance,
                     std::string_view sDescription) {
-  auto& File = CurrentReport();
-  if (File.nErrors > 0) File.Errors.emplace_back();
-  if (bError) ++File.nErrors;
-  File.Errors.back() = {dChainage, dX, dY, dZ, dDistance, bError, std::string(sDescription)};
+  TFileReport& Report = CurrentReport();
+  if (Report.nErrors > 0) Report.Errors.emplace_back();
+  if (bError) ++Report.nErrors;
+  Report.Errors.back() = {dChainage, dX, dY, dZ, dDistance, bError, std::string(sDescription)};
 }
 
 std::string GetReportText(std::string_view sNodeText, std::string_view sNodeKey) {
-  const auto& aFiles = Reports().aFiles;
-  const auto it = std::find_if(aFiles.begin(), aFiles.end(), [&](const TFileReport& File) {
-    return File.sName == sNodeText && Fits(File.nKind, sNodeKey);
+  const auto& aReports = Reports();
+  const auto Found = std::find_if(aReports.begin(), aReports.end(), [&](const TFileReport& Report) {
+    return Report.sName == sNodeText && Fits(Report.nKind, sNodeKey);
   });
-  if (it == aFiles.end()) return {};
-  if (it->nErrors == 0) return AppModel().GetToken("E_EMPTYFILE");
-  std::string sText = HeadLine(it->nKind) + "\r\n";
-  for (const auto& Error : it->Errors) sText += "\r\n" + ErrorLine(it->nKind, Error);
+  if (Found == aReports.end()) return {};
+  if (Found->nErrors == 0) return AppModel().GetToken("E_EMPTYFILE");
+  std::string sText = HeadLine(Found->nKind) + "\r\n";
+  for (const auto& Error : Found->Errors) sText += "\r\n" + ErrorLine(Found->nKind, Error);
   return sText;
 }
 

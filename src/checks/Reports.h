@@ -5,7 +5,7 @@
 
 namespace vrek::CAligmentCheck {
 
-/// The file noted last. Before the first one: failure 9.
+/// That of the file noted last. Before the first one: failure 9.
 TFileReport& CurrentReport();
 
 }  // namespace vrek::CAligmentCheck

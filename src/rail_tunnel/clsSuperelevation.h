@@ -1,5 +1,9 @@
 // clsSuperelevation: the cant table of one track, and the rails worked out from it. Metres; cant is
 // millimetres in the file. Stations are taken to be in rising chainage.
+//
+//   clsSuperelevation.cpp          what the table answers        clsSuperelevation_Rails.cpp    rails and
+//   cant plane clsSuperelevation_Import.cpp   the file                      clsSuperelevation_Export.cpp the
+//   sections
 #pragma once
 
 #include <string>
@@ -9,8 +13,6 @@
 #include "base/NotGiven.h"
 
 namespace vrek {
-
-struct TXmlElement;
 
 /// The point about which the track rotates.
 enum class ERotationPoint {
@@ -33,6 +35,13 @@ struct TCantStation {
   double dAppliedSuperelevation = 0;  ///< base of the cant: the distance over which it is measured
 };
 
+/// The plan's radius at the station of the row asked for last: for callers that go along the track step by
+/// step.
+struct TRowRadius {
+  int nRow = -1;  ///< none yet
+  double dRadius = 0;
+};
+
 class clsSuperelevation {
  public:
   /// Chainage of the first and of the last row. Without rows: failure 9.
@@ -41,7 +50,9 @@ class clsSuperelevation {
   bool IsCoplaneTrack() const { return m_bCoPlane; }
   std::vector<double> GetChainages() const;
 
-  /// Signed cross slope at a chainage, radians; 0 before the table.
+  /// Signed cross slope at a chainage, radians, positive where the right rail is the higher one in the form
+  /// with both lifts, else with the sign of the cant; 0 before the table. A base of 0: failure 11; a single
+  /// cant beyond its base: failure 5.
   double GetSlopeInChainage(double dChainage) const;
 
   /// Reads a cant file. Failures are reported with the source "ImportSuperelevationTable" and give false.
@@ -60,32 +71,24 @@ class clsSuperelevation {
                     double dChainage, std::string_view sStringLine = {}) const;
 
   /// Moves a height from one track to the other over the plane of the cant. nAligment: 2 left, 3 right track.
+  /// dOffset: distance of the tracks, its sign ignored. The last argument but one tells that the height comes
+  /// from the centre line. False before the table (the height stays) or on a failure, reported with the
+  /// source "ModifyHeightVtAligmentCoplane". pRadius: where given, saves looking up the plan for each step.
   bool CalcHeightVtAligmentCoplane(int nAligment, double dChainage, double dOffset, double& dHeightCL,
-                                   bool bIsVtAligmentSourceChainageCL) const;
+                                   bool bIsVtAligmentSourceChainageCL, TRowRadius* pRadius = nullptr) const;
 
   const std::vector<TCantStation>& Stations() const { return m_aStations; }
 
  private:
-  /// What ComputeRails fills.
-  struct TRails {
-    double dDist2CL = 0;
-    double dHeightLeft = 0;
-    double dHeightRight = 0;
-  };
-
   int FindStation(double dChainage) const;
   static ERotationPoint GetRotationPoint(std::string_view sText);
-  void ReadRow(const TXmlElement& Row, bool bSingle);
-  TCantStation Interpolated(int i, double dChainage) const;
-  void WriteSection(double s, std::string_view sName, int nAligment, std::string_view sStringLine,
-                    TRails& Rails, double& rChainageEnd) const;
 
   double m_dGauge = 0;
   double m_dSuperelevationBase = 0;
   ERotationPoint m_eRotationPoint = ERotationPoint::eGivenByRails;
   bool m_bCoPlane = false;
+  bool m_bInOrder = false;                // the stations rise, or stay: found by halving
   std::vector<TCantStation> m_aStations;  // from 0, in the order of the file
-  bool m_bInOrder = false;                // the stations never fall back
 };
 
 }  // namespace vrek

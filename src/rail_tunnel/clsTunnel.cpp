@@ -1,3 +1,8 @@
+// A tunnel file: the declaration and the root element stand on the first two lines.
+//
+//   <?xml version="1.0" encoding="ISO-8859-1"?>
+//   <TunnelProfiles desc="...">
+//     <TunnelProfile sta="726,773"> ... </TunnelProfile>
 #include "rail_tunnel/clsTunnel.h"
 
 #include "base/Checked.h"
@@ -12,32 +17,39 @@
 namespace vrek {
 namespace {
 
-// The lines behind the declaration, joined. A first line that is no declaration goes too.
-std::string ReadText(const std::string& sFilename) {
-  CTextFile File = OpenTextFile(sFilename);
-  std::string sText;
-  if (!File.AtEnd() && File.NextLine().starts_with("<?xml")) {
-    const auto sRoot = File.NextLine();
-    if (!sRoot.starts_with("<TunnelProfiles")) Raise(Error::nNotTheExpectedFile);
-    sText += sRoot;
+// All lines of the file in one, without line 1. Bytes of the code page.
+void JoinLines(std::string& sBytes, CTextFile& File) {
+  // 1. line 1 goes, declaration or not
+  const std::string_view sFirst = File.AtEnd() ? std::string_view{} : File.NextLine();
+  // 2. behind a declaration the root element must follow
+  if (sFirst.starts_with("<?xml")) {
+    const std::string_view sLine = File.NextLine();
+    if (!sLine.starts_with("<TunnelProfiles")) Raise(Error::nNotTheExpectedFile);
+    sBytes += sLine;
   }
-  while (!File.AtEnd()) sText += File.NextLine();
-  return CodePage::ToUtf8(sText);
+  // 3. the rest
+  while (!File.AtEnd()) sBytes += File.NextLine();
 }
 
 }  // namespace
 
 bool clsTunnel::Load(const std::string& sFilename) {
   return Guard("clsTunnel.Load", false, [&] {
-    // 1. - 3.
-    m_sXml = ReadText(sFilename);
-    // 4., 5.
-    const auto Document = ReadXmlFile(sFilename, "TunnelProfile", Error::nNotTheExpectedFile);
+    // 1. - 3. the text
+    m_sXml.clear();
+    {
+      CTextFile File = OpenTextFile(sFilename);
+      std::string sBytes;
+      JoinLines(sBytes, File);
+      m_sXml = CodePage::ToUtf8(sBytes);
+    }
+    // 4. - 6. the profiles
+    const TXmlDocument Document = ReadXmlFile(sFilename, "TunnelProfile", Error::nNotTheExpectedFile);
     if (Document.sRootLocalName != "TunnelProfiles") Raise(Error::nNotTheExpectedFile);
-    // 6. - 8.
     if (Document.aElements.empty()) Raise(Error::nXmlElementMissing);
-    for (const auto& Profile : Document.aElements)
-      m_aChainages.push_back(ST::ParseReal(Profile.Attribute("sta")));
+    // 7., 8. their chainages
+    for (const auto& Element : Document.aElements)
+      m_aChainages.push_back(ST::ParseReal(Element.Attribute("sta")));
     CovertData::SortDoubles(m_aChainages, 0);
     return true;
   });
@@ -48,7 +60,7 @@ double clsTunnel::GetChainageStart() const {
 }
 
 double clsTunnel::GetChainageEnd() const {
-  return Checked::At(m_aChainages, static_cast<int>(m_aChainages.size()) - 1);
+  return Checked::At(m_aChainages, std::ssize(m_aChainages) - 1);
 }
 
 bool clsTunnel::ExportToLandXml(double& rChainageStart, double& rChainageEnd, double /*dChStart*/,
