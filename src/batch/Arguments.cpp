@@ -41,6 +41,8 @@ void AddCommon(CLI::App& App, TConvertOptions& Options, bool bCheckOnly) {
       ->type_name("TEXT");
   App.add_option("--creator", Job.sCreator, "author of the document; the user's name without it")
       ->type_name("TEXT");
+  App.add_option("--plot", Job.sPlot, "draw what was written, plan over profile, into an SVG file")
+      ->type_name("FILE.svg");
   AddNumber(App, "--tolerance-hz", Job.sToleranceHz, "tolerance of the plan's check (0.010)");
   AddNumber(App, "--tolerance-vt", Job.sToleranceVt, "tolerance of the profile's check (0.010)");
   AddNumber(App, "--from", Job.sFrom, "first chainage");

@@ -35,7 +35,8 @@ void Tell(const TOutcome& Outcome, bool bCheckOnly, std::ostream& Err) {
   TellFiles(Outcome, Err);
   if (Outcome.bExported) Err << "written: " << Outcome.sOutput << "\n";
   if (bCheckOnly && Outcome.eStatus == eConverted) Err << "all files are good\n";
-  if (Outcome.eStatus == eNotWritten) Err << "could not be written whole: " << Outcome.sOutput << "\n";
+  if (Outcome.eStatus == eNotWritten && !Outcome.bExported)
+    Err << "could not be written whole: " << Outcome.sOutput << "\n";
 }
 
 }  // namespace

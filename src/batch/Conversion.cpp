@@ -6,9 +6,11 @@
 #include "batch/JobFile.h"
 #include "checks/CAligmentCheck.h"
 #include "landxml/CLandXML.h"
+#include "preview/SvgPlot.h"
 #include "shell/AppModel.h"
 #include "shell/CommandLine.h"
 #include "shell/ErrHandler.h"
+#include "wizard/PreviewOf.h"
 #include "wizard/frmWizard.h"
 
 namespace vrek::batch {
@@ -46,6 +48,7 @@ class CConversion {
   void TypePreferences();
   void TypeExport();
   void Export();
+  void Plot();
   void AddBox(std::string_view sText, EIcon eIcon) {
     m_Outcome.aMessages.push_back(
         {true, eIcon == EIcon::eCritical ? "critical" : "warning", std::string(sText)});
@@ -156,6 +159,19 @@ void CConversion::Export() {
   if (!m_Outcome.bExported) return;
   m_Outcome.eStatus = eConverted;
   KeepSummary();
+  if (!m_Job.sPlot.empty()) Plot();
+}
+
+// Comes into its place whole or not at all, like the document.
+void CConversion::Plot() {
+  const bool bWritten = Guard("Plot", false, [&] {
+    const auto File = m_Platform.Output.Create(m_Job.sPlot);
+    File->Write(SvgPlot::PlotAsSvg(PreviewOf(m_Window)));
+    File->Close();
+    m_Platform.Output.Commit();
+    return true;
+  });
+  if (!bWritten) m_Outcome.eStatus = eNotWritten;
 }
 
 TOutcome CConversion::Run() {

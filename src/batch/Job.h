@@ -22,6 +22,7 @@ struct TJob {
   std::string sOutput;
   std::string sName;     ///< empty: taken from the output file
   std::string sCreator;  ///< empty: the user's name
+  std::string sPlot;     ///< SVG file for a drawing of what was written; empty: none
   std::optional<int> nFormats;
   // Numbers as typed into their boxes; unset leaves what the page shows.
   std::optional<std::string> sToleranceHz, sToleranceVt, sFrom, sTo;

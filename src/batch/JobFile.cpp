@@ -144,12 +144,14 @@ TJob ReadJob(const toml::table& Table, const std::string& sPath) {
   }
   Job.nJob = static_cast<int>(it - aJobNames.begin());
   if (Job.nJob == 3) {
-    Root.AllowOnly(
-        {"job", "output", "name", "creator", "formats", "tolerance", "export", "centre", "left", "right"});
+    Root.AllowOnly({"job", "output", "plot", "name", "creator", "formats", "tolerance", "export", "centre",
+                    "left", "right"});
   } else {
-    Root.AllowOnly({"job", "output", "name", "creator", "formats", "tolerance", "export", "alignment"});
+    Root.AllowOnly(
+        {"job", "output", "plot", "name", "creator", "formats", "tolerance", "export", "alignment"});
   }
   Job.sOutput = Beside(sPath, Root.Text("output"));
+  Job.sPlot = Beside(sPath, Root.Text("plot"));
   Job.sName = Root.Text("name").value_or("");
   Job.sCreator = Root.Text("creator").value_or("");
   Job.nFormats = Root.Integer("formats");

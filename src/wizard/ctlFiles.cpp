@@ -1,5 +1,7 @@
 #include "wizard/ctlFiles.h"
 
+#include <algorithm>
+
 #include "base/Configuration.h"
 #include "base/ST.h"
 #include "shell/AppModel.h"
@@ -10,6 +12,13 @@ namespace {
 
 std::string SettingsKey(std::size_t nPage, std::size_t nFile) {
   return "Page" + std::to_string(nPage + 1) + "File" + std::to_string(nFile + 1);
+}
+
+// Whether a filter such as "(*.PLT;*.RTF)|*.plt;*.rtf|(*.*)|*.*" names the ending of a file.
+bool TakesEnding(const std::string& sFilter, const std::string& sFile) {
+  const auto sEnding = "*." + ST::ToUpper(ST::GetFileExtension(ST::GetFileName(sFile)));
+  const auto sPatterns = ST::ToUpper(sFilter);
+  return sPatterns.find(sEnding + ";") != sPatterns.npos || sPatterns.find(sEnding + ")") != sPatterns.npos;
 }
 
 }  // namespace
@@ -248,26 +257,19 @@ void ctlFiles::SaveFilenames() const {
   }
 }
 
+// Slots are filled from the first on, since each is enabled by the one before it.
 std::vector<std::string> ctlFiles::DropFiles(const std::vector<std::string>& aFiles) {
-  std::vector<std::string> aRefused;
-  for (const auto& sFile : aFiles) {
-    const auto sPattern = "*." + ST::ToUpper(ST::GetFileExtension(ST::GetFileName(sFile)));
-    const bool bRtf = sPattern == "*.RTF";
-    bool bTaken = false;
-    for (auto& Control : ctlSelectFile) {
-      // RTF fits every listing, so the name can't tell which: the first free slot takes it.
-      const auto sFilter = ST::ToUpper(Control.Filter);
-      const bool bFits = sFilter.find(sPattern + ";") != sFilter.npos ||
-                         sFilter.find(sPattern + ")") != sFilter.npos ||
-                         (bRtf && sFilter.find("*.RTF") != sFilter.npos);
-      if (!bFits || !Control.Visible || !Control.Enabled() || !Control.Filename().empty()) continue;
-      Control.DropFiles({sFile});
-      bTaken = true;
-      break;
-    }
-    if (!bTaken) aRefused.push_back(sFile);
+  std::vector<std::string> aLeft = aFiles;
+  for (auto& Control : ctlSelectFile) {
+    if (!Control.Visible || !Control.Enabled() || !Control.Filename().empty()) continue;
+    const auto it = std::find_if(aLeft.begin(), aLeft.end(), [&](const std::string& sFile) {
+      return TakesEnding(Control.Filter, sFile);
+    });
+    if (it == aLeft.end()) continue;
+    Control.DropFiles({*it});
+    aLeft.erase(it);
   }
-  return aRefused;
+  return aLeft;
 }
 
 }  // namespace vrek

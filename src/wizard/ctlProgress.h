@@ -19,11 +19,13 @@ class ctlProgress final : public IProgress {
   void SetRanges(double dMin, double dMax) override;
   /// A value outside the bar's range leaves the bar as it was.
   void SetValue(double dValue) override;
-  bool CancelPressed() const override { return m_bCancelPressed; }
+  bool CancelPressed() const override { return m_bCancelPressed || m_bCancelAll; }
   void Reset() override;
   void UpdateText();
 
   void cmbCancel_Click() { m_bCancelPressed = true; }
+  /// The program is to end: Cancel counts as pressed from now on, whatever Reset clears.
+  void CancelAll() { m_bCancelAll = true; }
 
   bool Visible = false;
   TPart frProgress, lblInfo;
@@ -35,7 +37,8 @@ class ctlProgress final : public IProgress {
 
  private:
   bool m_bCancelPressed = false;  // since the last Reset
-  double m_dScale = 1;            // bar units per unit of value
+  bool m_bCancelAll = false;
+  double m_dScale = 1;  // bar units per unit of value
 };
 
 }  // namespace vrek

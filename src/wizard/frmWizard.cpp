@@ -84,7 +84,9 @@ bool frmWizard::Leave(int nPage) {
 void frmWizard::ShowFirstPage() {
   const CWork Work(*this);
   m_nCurrent = FirstPage() == ePageFiles ? 1 : 0;
-  if (Enter(CurrentPage())) ShowCurrent();
+  if (!Enter(CurrentPage())) return;
+  KeepTitles();
+  ShowCurrent();
 }
 
 void frmWizard::ShowCurrent() {
@@ -92,7 +94,19 @@ void frmWizard::ShowCurrent() {
   UpdateButtons();
 }
 
+void frmWizard::KeepTitles() {
+  m_aTitles[CurrentPage()] = {lblTitle.Caption, lblSubTitle.Caption};
+}
+
+// A page that comes back isn't entered again: its title comes back with it.
+void frmWizard::RestoreTitles() {
+  const auto& aTitle = m_aTitles[CurrentPage()];
+  lblTitle.Caption = aTitle[0];
+  lblSubTitle.Caption = aTitle[1];
+}
+
 void frmWizard::UpdateButtons() {
+  cmdOpenFolder.Visible = OnLastPage();
   if (CurrentPage() == FirstPage()) {
     cmdBack.Enabled = false;
     cmdNext.Enabled = true;
@@ -126,6 +140,7 @@ void frmWizard::NextPage() {
     ++m_nCurrent;
     Enter(CurrentPage());
   }
+  KeepTitles();
   ShowCurrent();
 }
 
@@ -137,16 +152,18 @@ void frmWizard::BackPage() {
   const CWork Work(*this);
   if (OnLastPage()) Leave(CurrentPage());
   --m_nCurrent;
+  RestoreTitles();
   ShowCurrent();
 }
 
 void frmWizard::cmdCancel_Click() {
-  EndProcess(1);
+  if (!m_bBusy) EndProcess(1);
 }
 
 bool frmWizard::QueryClose() {
   if (m_bBusy) {
-    ctlProgress.cmbCancel_Click();
+    ctlProgress.CancelAll();
+    m_bCloseWanted = true;
     return false;
   }
   Unload();

@@ -2,7 +2,9 @@
 // order of the pages and knows nothing of what a page does.
 #pragma once
 
+#include <array>
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -39,18 +41,20 @@ class frmWizard {
   /// Number of the page on show.
   int CurrentPage() const { return m_aPages[m_nCurrent]; }
   bool OnLastPage() const { return m_nCurrent + 1 == m_aPages.size(); }
-  /// While a page's work runs, presses of Next and Back are ignored.
+  /// While a page's work runs, presses of the three buttons are ignored.
   bool Busy() const { return m_bBusy; }
 
   void cmdNext_Click();
   void cmdBack_Click();
   void cmdCancel_Click();
-  /// The title bar's close box. While work runs it presses the panel's Cancel; false: the window stays for
-  /// now.
+  /// The title bar's close box. While work runs it presses the panel's Cancel, also for what the same run
+  /// starts later, and gives false: the window stays for now, and CloseWanted says so.
   bool QueryClose();
+  bool CloseWanted() const { return m_bCloseWanted; }
 
   std::string Caption;
   TPart frTitle, lblTitle, lblSubTitle, frButtons, cmdBack, cmdNext, cmdCancel;
+  TPart cmdOpenFolder{.Visible = false};  ///< beside Finish: shows where the document lies
   struct {
     int Tab = ePageJob;
     bool WholeWindow = false;  ///< the page also takes the room of the title band
@@ -75,6 +79,8 @@ class frmWizard {
   void BackPage();
   void ShowCurrent();
   void UpdateButtons();
+  void KeepTitles();
+  void RestoreTitles();
   bool Enter(int nPage);
   bool Leave(int nPage);
   int FirstPage() const;
@@ -83,6 +89,8 @@ class frmWizard {
   std::vector<int> m_aPages;
   std::size_t m_nCurrent = 0;
   bool m_bBusy = false;
+  bool m_bCloseWanted = false;
+  std::map<int, std::array<std::string, 2>> m_aTitles;  // title and subtitle under which a page was shown
 };
 
 }  // namespace vrek

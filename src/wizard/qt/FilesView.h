@@ -8,6 +8,7 @@
 
 #include "wizard/ctlFiles.h"
 #include "wizard/qt/PageView.h"
+#include "wizard/qt/Paging.h"
 #include "wizard/qt/RailsView.h"
 #include "wizard/qt/SlotView.h"
 
@@ -24,14 +25,16 @@ class FilesView final : public PageView {
   void DropFiles(const QStringList& aFiles);
 
  private:
+  void LayOut();
+  void FocusMoved(const QWidget* pOld, const QWidget* pNow);
+
   ctlFiles& m_Control;
   QGroupBox* m_pFrame;
   std::array<SlotView*, 4> m_aSlots{};
   RailsView* m_pRails;
-  std::array<QPushButton*, 2> m_aPaging{};
-  QLabel* m_pPage;
-  QLabel* m_pInfo;
   QPushButton* m_pResume;
+  QLabel* m_pInfo;
+  Paging* m_pPaging;
 };
 
 }  // namespace vrek::qt

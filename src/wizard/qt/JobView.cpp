@@ -36,7 +36,9 @@ void JobView::Render() {
   qt::Render(*m_pTypeFrame, m_Control.frJobType);
   qt::Render(*m_pInfoFrame, m_Control.frJobInfo);
   for (std::size_t n = 0; n < 4; ++n) qt::Render(*m_aOptions[n], m_Control.optDesign[n]);
-  m_pInfo->setPlainText(Text(m_Control.txtJobInfo.Text));
+  if (m_pInfo->toPlainText() != Text(m_Control.txtJobInfo.Text)) {
+    m_pInfo->setPlainText(Text(m_Control.txtJobInfo.Text));
+  }
   m_pInfo->setAccessibleName(m_pInfoFrame->title());
 }
 

@@ -20,6 +20,8 @@ class NumericBox final : public PageView {
   bool eventFilter(QObject* pObject, QEvent* pEvent) override;
 
  private:
+  void Changed(const QString& sText);
+
   ctlNumericText& m_Control;
   QLineEdit* m_pBox;
   QLabel* m_pUnit;

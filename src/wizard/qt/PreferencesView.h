@@ -19,13 +19,21 @@ class PreferencesView final : public PageView {
   void Render() override;
 
  private:
+  struct TRow {
+    QLabel* pLabel;
+    NumericBox* pBox;
+  };
+  TRow MakeRow(ctlNumericText& Number, const QString& sObjectName, QWidget* pParent);
+  static void RenderRow(const TRow& Row, const TPart& lblRow);
+
   ctlPreferences& m_Control;
   QGroupBox* m_pFrame;
   QGroupBox* m_pTolerances;
-  std::array<QLabel*, 2> m_aLabels{};
-  std::array<NumericBox*, 2> m_aTolerances{};
-  QLabel* m_pOffsetLabel;
-  NumericBox* m_pOffset;
+  std::array<TRow, 2> m_aTolerances;
+  TRow m_Offset;
+  QGroupBox* m_pVersionFrame;
+  QLabel* m_pVersionLabel;
+  QComboBox* m_pVersion;
 };
 
 }  // namespace vrek::qt

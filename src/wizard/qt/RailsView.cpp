@@ -8,12 +8,18 @@ namespace {
 // The drawing is laid out in units of which 15 make a pixel on a screen of 96 dots to the inch.
 constexpr double dUnitsPerPixel = 15;
 
-QColor Color(int nBgr) { return {nBgr & 255, (nBgr >> 8) & 255, (nBgr >> 16) & 255}; }
+QColor Color(int nBgr) {
+  return {nBgr & 255, (nBgr >> 8) & 255, (nBgr >> 16) & 255};
+}
 
 }  // namespace
 
 RailsView::RailsView(const ctlRails& Control, QWidget* pParent) : QWidget(pParent), m_Control(Control) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+}
+
+QSize RailsView::sizeHint() const {
+  return {fontMetrics().averageCharWidth() * 18, fontMetrics().height() * 6};
 }
 
 void RailsView::paintEvent(QPaintEvent*) {
@@ -25,7 +31,8 @@ void RailsView::paintEvent(QPaintEvent*) {
       Painter.setPen(QPen(Color(Shape.nColor), 2 * dUnitsPerPixel));
       Painter.drawLine(QPointF(Shape.dX1, Shape.dY1), QPointF(Shape.dX2, Shape.dY2));
     } else {
-      Painter.fillRect(QRectF(QPointF(Shape.dX1, Shape.dY1), QPointF(Shape.dX2, Shape.dY2)), Color(Shape.nColor));
+      Painter.fillRect(QRectF(QPointF(Shape.dX1, Shape.dY1), QPointF(Shape.dX2, Shape.dY2)),
+                       Color(Shape.nColor));
     }
   }
 }

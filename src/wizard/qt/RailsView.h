@@ -11,10 +11,10 @@ class RailsView final : public QWidget {
   Q_OBJECT
  public:
   explicit RailsView(const ctlRails& Control, QWidget* pParent = nullptr);
+  QSize sizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* pEvent) override;
-  QSize sizeHint() const override { return {120, 90}; }
 
  private:
   const ctlRails& m_Control;

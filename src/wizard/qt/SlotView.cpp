@@ -1,10 +1,10 @@
 #include "wizard/qt/SlotView.h"
 
+#include <QApplication>
 #include <QDropEvent>
 #include <QGridLayout>
 #include <QMimeData>
 #include <QSignalBlocker>
-#include <QUrl>
 
 #include "wizard/qt/View.h"
 
@@ -16,13 +16,21 @@ SlotView::SlotView(ctlSelectFilename& Control, int nSlot, QWidget* pParent)
       m_pCheck(new QCheckBox(this)),
       m_pPath(new QLineEdit(this)),
       m_pBrowse(new QPushButton(QStringLiteral("…"), this)),
-      m_pEdit(new QPushButton(Word("WIN_EDIT", "&Edit"), this)),
+      m_pEdit(new QPushButton(this)),
       m_pOption(new QCheckBox(this)) {
   m_pCheck->setObjectName(QString("chkFile%1").arg(nSlot));
   m_pPath->setObjectName(QString("txtFileName%1").arg(nSlot));
   m_pBrowse->setObjectName(QString("cmdBrowse%1").arg(nSlot));
   m_pEdit->setObjectName(QString("cmdEdit%1").arg(nSlot));
   m_pOption->setObjectName(QString("chkOption%1").arg(nSlot));
+  SetCaption(*m_pEdit, Word("WIN_EDIT", "Edit"));
+  m_pPath->setAcceptDrops(true);
+  m_pPath->installEventFilter(this);
+  LayOut();
+  Connect();
+}
+
+void SlotView::LayOut() {
   auto* pLayout = new QGridLayout(this);
   pLayout->setContentsMargins(0, 0, 0, 0);
   pLayout->addWidget(m_pCheck, 0, 0, 1, 3);
@@ -31,9 +39,10 @@ SlotView::SlotView(ctlSelectFilename& Control, int nSlot, QWidget* pParent)
   pLayout->addWidget(m_pEdit, 1, 2);
   pLayout->addWidget(m_pOption, 2, 0, 1, 3);
   pLayout->setColumnStretch(0, 1);
-  m_pPath->setAcceptDrops(true);
-  m_pPath->installEventFilter(this);
+  m_pBrowse->setMaximumWidth(m_pBrowse->fontMetrics().horizontalAdvance("…") * 4);
+}
 
+void SlotView::Connect() {
   connect(m_pCheck, &QCheckBox::toggled, this, [this](bool bOn) {
     m_Control.chkFile_Click(bOn);
     emit Used();
@@ -54,6 +63,7 @@ SlotView::SlotView(ctlSelectFilename& Control, int nSlot, QWidget* pParent)
     m_Control.chkOption_Click(bOn);
     emit Used();
   });
+  connect(qApp, &QApplication::focusChanged, this, &SlotView::FocusMoved);
 }
 
 void SlotView::Render() {
@@ -67,16 +77,34 @@ void SlotView::Render() {
   const auto sPath = Text(m_Control.txtFileName.Text);
   if (m_pPath->text() != sPath) m_pPath->setText(sPath);
   m_pPath->setEnabled(m_Control.txtFileName.Enabled);
-  m_pPath->setToolTip(sPath);
   // White on red stays readable in a light and in a dark theme.
   m_pPath->setStyleSheet(m_Control.txtFileName.FileMissing ? "background: #b00020; color: white" : "");
+  m_pPath->setToolTip(m_Control.txtFileName.FileMissing
+                          ? Word("WIN_FILE_MISSING", "This file cannot be opened:") + "\n" + sPath
+                          : sPath);
   const auto sLabel = Text(m_Control.chkFile.Caption);
   m_pPath->setAccessibleName(sLabel);
-  m_pBrowse->setAccessibleName(sLabel + " …");
-  m_pBrowse->setToolTip(sLabel);
+  m_pBrowse->setAccessibleName(Word("WIN_BROWSE", "Choose a file:") + " " + sLabel);
+  m_pBrowse->setToolTip(m_pBrowse->accessibleName());
 }
 
-void SlotView::FocusPath() { (m_pPath->isEnabled() ? static_cast<QWidget*>(m_pPath) : m_pCheck)->setFocus(); }
+void SlotView::FocusPath() {
+  (m_pPath->isEnabled() ? static_cast<QWidget*>(m_pPath) : m_pCheck)->setFocus();
+}
+
+bool SlotView::Holds(const QWidget* pWidget) const {
+  return pWidget && isAncestorOf(pWidget);
+}
+
+// A box of another window that takes the focus, such as the file dialog, doesn't end the work on the slot.
+void SlotView::FocusMoved(const QWidget* pOld, const QWidget* pNow) {
+  const bool bWas = Holds(pOld), bIs = Holds(pNow);
+  if (pNow && pNow->window() != window()) return;
+  if (pOld == m_pPath) m_Control.txtFileName_LostFocus();
+  if (bWas && !bIs && pNow) m_Control.LeaveFocus();
+  if (!bWas && bIs) m_Control.EnterFocus();
+  if (bWas || bIs) emit Used();
+}
 
 void SlotView::Drop(const QList<QUrl>& aUrls) {
   std::vector<std::string> aFiles;
@@ -88,32 +116,15 @@ void SlotView::Drop(const QList<QUrl>& aUrls) {
 }
 
 bool SlotView::eventFilter(QObject* pObject, QEvent* pEvent) {
-  switch (pEvent->type()) {
-    case QEvent::DragEnter:
-    case QEvent::DragMove: {
-      auto* pDrag = static_cast<QDragMoveEvent*>(pEvent);
-      if (!pDrag->mimeData()->hasUrls()) break;
-      pDrag->acceptProposedAction();
-      return true;
-    }
-    case QEvent::Drop: {
-      auto* pDrop = static_cast<QDropEvent*>(pEvent);
-      if (!pDrop->mimeData()->hasUrls()) break;
-      pDrop->acceptProposedAction();
-      Drop(pDrop->mimeData()->urls());
-      return true;
-    }
-    case QEvent::FocusIn:
-      m_Control.EnterFocus();
-      emit Used();
-      break;
-    case QEvent::FocusOut:
-      m_Control.txtFileName_LostFocus();
-      m_Control.LeaveFocus();
-      emit Used();
-      break;
-    default: break;
+  if (pEvent->type() == QEvent::DragEnter || pEvent->type() == QEvent::DragMove ||
+      pEvent->type() == QEvent::Drop) {
+    auto* pDrop = static_cast<QDropEvent*>(pEvent);
+    if (!pDrop->mimeData()->hasUrls()) return PageView::eventFilter(pObject, pEvent);
+    pDrop->acceptProposedAction();
+    if (pEvent->type() == QEvent::Drop) Drop(pDrop->mimeData()->urls());
+    return true;
   }
+  if (pEvent->type() == QEvent::MouseButtonPress) m_Control.txtFileName_Click();
   return PageView::eventFilter(pObject, pEvent);
 }
 

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QUrl>
 
 #include "wizard/ctlSelectFilename.h"
 #include "wizard/qt/PageView.h"
@@ -21,6 +22,10 @@ class SlotView final : public PageView {
   bool eventFilter(QObject* pObject, QEvent* pEvent) override;
 
  private:
+  void LayOut();
+  void Connect();
+  void FocusMoved(const QWidget* pOld, const QWidget* pNow);
+  bool Holds(const QWidget* pWidget) const;
   void Drop(const QList<QUrl>& aUrls);
 
   ctlSelectFilename& m_Control;

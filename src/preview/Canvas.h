@@ -1,0 +1,40 @@
+// Canvas: puts strokes and labels into a drawing: cuts strokes at the edges, leaves out points that lie on
+// top of each other, and labels that would cover one another.
+#pragma once
+
+#include <vector>
+
+#include "preview/Drawing.h"
+
+namespace vrek {
+
+class CCanvas {
+ public:
+  explicit CCanvas(const TViewport& View) : m_View(View) {
+    m_Drawing.dWidth = View.dWidth;
+    m_Drawing.dHeight = View.dHeight;
+  }
+
+  const TViewport& View() const { return m_View; }
+  /// A line in device units. Style: all but the points.
+  void Line(const std::vector<TPlotPoint>& aPoints, const TStroke& Style);
+  /// A line in metres.
+  void LineInMetres(const std::vector<TPlotPoint>& aPoints, const TStroke& Style);
+  /// True when there was room for it.
+  bool Label(const TLabel& Label);
+  bool IsInside(const TPlotPoint& Point) const;
+
+  TDrawing Take() { return std::move(m_Drawing); }
+
+ private:
+  struct TBox {
+    double dLeft, dTop, dRight, dBottom;
+  };
+  void Flush(TStroke& Open);
+
+  TViewport m_View;
+  TDrawing m_Drawing;
+  std::vector<TBox> m_aTaken;  // by labels
+};
+
+}  // namespace vrek

@@ -1,0 +1,74 @@
+// Drawing: a picture as strokes and labels in device units, which a window paints and SvgPlot writes.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "preview/Preview.h"
+#include "preview/Viewport.h"
+
+namespace vrek {
+
+/// What a stroke or label stands for; whoever paints it chooses the colour. eSeries and those behind it: the
+/// first alignment or layer and the following ones.
+enum class EInk { eText, eGrid, eAxis, eSelected, eSeries };
+inline constexpr int nSeriesInks = 6;
+
+/// A colour as 0xRRGGBB that can be read on a light, or on a dark background.
+int InkColor(EInk eInk, int nSeries, bool bDark);
+
+enum class EAnchor { eStart, eMiddle, eEnd };
+
+struct TStroke {
+  std::vector<TPlotPoint> aPoints;
+  EInk eInk = EInk::eText;
+  int nSeries = 0;  ///< 0 to nSeriesInks - 1, for eSeries
+  double dWidth = 1;
+  bool bDashed = false;
+};
+
+/// At: the base line's start, middle or end.
+struct TLabel {
+  TPlotPoint At;
+  std::string sText;
+  EAnchor eAnchor = EAnchor::eStart;
+  EInk eInk = EInk::eText;
+};
+
+struct TDrawing {
+  double dWidth = 0, dHeight = 0;
+  std::vector<TStroke> aStrokes;
+  std::vector<TLabel> aLabels;
+};
+
+/// The words of a drawing.
+struct TPlotWords {
+  std::string sStraight = "straight", sArc = "arc", sSpiral = "spiral";
+  std::string sChainage = "chainage", sLength = "length", sRadius = "radius", sParameter = "parameter";
+  std::string sLeft = "left", sRight = "right", sRail = "rails", sNothing = "Nothing to show";
+};
+
+namespace Drawing {
+
+/// Height of the labels in device units that the drawings are laid out for.
+inline constexpr double dTextHeight = 11;
+
+TExtent ExtentOfPlan(const TPreview& Shown);
+TExtent ExtentOfProfile(const TPreview& Shown);
+TExtent ExtentOfSection(const TPreviewSection& Section);
+
+/// The plan: straights thin, arcs thick, spirals dashed; chainage marks as close as the scale allows.
+TDrawing DrawPlan(const TPreview& Shown, const TViewport& View, const Preview::TElementIndex& Selected,
+                  const TPlotWords& Words);
+/// The profile over a grid of chainages and heights: grades thin, curves thick.
+TDrawing DrawProfile(const TPreview& Shown, const TViewport& View, const TPlotWords& Words);
+TDrawing DrawSection(const TPreviewSection& Section, const TViewport& View, const TPlotWords& Words);
+
+/// "1+234.500", with a minus in front of a negative chainage.
+std::string ChainageText(double dChainage, int nDecimals);
+
+/// "arc, chainage 1+234.500, length 100.000 m, radius 300.000 m (right)".
+std::string DescribeElement(const TPlanElement& Element, const TPlotWords& Words);
+
+}  // namespace Drawing
+}  // namespace vrek

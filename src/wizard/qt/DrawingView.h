@@ -1,0 +1,62 @@
+// Shows a drawing: pan by dragging or the arrow keys, zoom by the wheel or + and -, the whole by 0 or Home.
+#pragma once
+
+#include <QPointF>
+#include <QWidget>
+#include <functional>
+
+#include "preview/Drawing.h"
+
+class QPainter;
+
+namespace vrek::qt {
+
+/// What is drawn.
+struct TDrawingContent {
+  std::function<TDrawing(const TViewport&)> Draw;
+  TExtent Extent;
+  bool bSameScale = true;  ///< a metre is as long upwards as across
+};
+
+class DrawingView final : public QWidget {
+  Q_OBJECT
+ public:
+  explicit DrawingView(QWidget* pParent = nullptr);
+
+  /// Shows another drawing, whole; or the present one again where bKeepPlace is set.
+  void SetContent(TDrawingContent Content, bool bKeepPlace = false);
+  void Fit();
+  const TViewport& View() const { return m_View; }
+  TDrawing Drawing() const;
+
+  /// Paints a drawing in the colours for a light or a dark background.
+  static void Paint(QPainter& Painter, const TDrawing& Drawing, bool bDark);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ signals:
+  /// A click that was no drag, in device units.
+  void Clicked(const QPointF& At);
+
+ protected:
+  void paintEvent(QPaintEvent* pEvent) override;
+  void resizeEvent(QResizeEvent* pEvent) override;
+  void wheelEvent(QWheelEvent* pEvent) override;
+  void mousePressEvent(QMouseEvent* pEvent) override;
+  void mouseMoveEvent(QMouseEvent* pEvent) override;
+  void mouseReleaseEvent(QMouseEvent* pEvent) override;
+  void keyPressEvent(QKeyEvent* pEvent) override;
+
+ private:
+  void Pan(double dRight, double dDown);
+  void Zoom(double dFactor, const QPointF& Around);
+
+  TDrawingContent m_Content;
+  TViewport m_View;
+  bool m_bWhole = true;  // nobody has moved the drawing: it follows the size of the window
+  QPointF m_Pressed, m_DraggedTo;
+  bool m_bDragging = false;
+};
+
+}  // namespace vrek::qt

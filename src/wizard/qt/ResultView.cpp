@@ -1,0 +1,61 @@
+#include "wizard/qt/ResultView.h"
+
+#include <QGridLayout>
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+#include "wizard/qt/View.h"
+
+namespace vrek::qt {
+
+ResultView::ResultView(ctlResult& Control, std::function<TPreview()> MakePreview, QWidget* pParent)
+    : PageView(pParent),
+      m_Control(Control),
+      m_MakePreview(std::move(MakePreview)),
+      m_pFrame(new QGroupBox(this)) {
+  auto* pLayout = new QVBoxLayout(this);
+  pLayout->addWidget(MakeRows());
+  pLayout->addWidget(m_pPreview = new PreviewView(this), 1);
+}
+
+// A page that comes into view shows what has just been written.
+void ResultView::showEvent(QShowEvent* pEvent) {
+  if (!pEvent->spontaneous()) m_pPreview->Show(m_MakePreview());
+  PageView::showEvent(pEvent);
+}
+
+QWidget* ResultView::MakeRows() {
+  auto* pGrid = new QGridLayout(m_pFrame);
+  for (int nRow = 0; nRow < 6; ++nRow) {
+    auto& aRow = m_aRows[static_cast<std::size_t>(nRow)];
+    for (int n = 0; n < 3; ++n) {
+      auto* pLabel = aRow[static_cast<std::size_t>(n)] = new QLabel(m_pFrame);
+      if (n == 1) pLabel->setAlignment(Qt::AlignRight);
+      if (n == 1) pLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+      pGrid->addWidget(pLabel, nRow, n);
+    }
+    aRow[1]->setObjectName(QString("lblData%1").arg(nRow));
+  }
+  m_pPaging = new Paging(
+      [this](int n) {
+        m_Control.cmdPage_Click(n);
+        emit Used();
+      },
+      m_pFrame);
+  pGrid->addWidget(m_pPaging, 5, 4, Qt::AlignRight | Qt::AlignBottom);
+  pGrid->setColumnStretch(3, 1);
+  return m_pFrame;
+}
+
+void ResultView::Render() {
+  qt::Render(*m_pFrame, m_Control.frResult);
+  for (std::size_t n = 0; n < 6; ++n) {
+    qt::Render(*m_aRows[n][0], m_Control.lblDescription[n]);
+    qt::Render(*m_aRows[n][1], m_Control.lblData[n]);
+    qt::Render(*m_aRows[n][2], m_Control.lblUnit[n]);
+    m_aRows[n][1]->setAccessibleName(m_aRows[n][0]->text());
+  }
+  m_pPaging->Render(m_Control.cmdPage, m_Control.lblPage);
+}
+
+}  // namespace vrek::qt
