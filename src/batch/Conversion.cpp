@@ -77,7 +77,9 @@ void CConversion::Start() {
   Model.ConversionInfo.sJobName = m_Job.sName;
   Model.ConversionInfo.sCreator = m_Job.sCreator;
   Model.ConversionInfo.bExportOnce = true;
-  if (!Model.TokenFile.ReadFile(m_Options.sLanguageFile)) {
+  bool bRead = false;
+  TopLevel([&] { bRead = Model.TokenFile.ReadFile(m_Options.sLanguageFile); });
+  if (!bRead) {
     throw UsageError("the language file " + m_Options.sLanguageFile + " isn't beside the program");
   }
   m_Platform.Events.Watch(&m_Window.ctlProgress);
@@ -235,6 +237,7 @@ void CConversion::KeepSummary() {
 }  // namespace
 
 TOutcome RunJob(const TJob& Job, const TConversionOptions& Options) {
+  if (const auto sLost = Overwritten(Job); !Options.bCheckOnly && !sLost.empty()) throw UsageError(sLost);
   return CConversion(Job, Options).Run();
 }
 

@@ -60,8 +60,8 @@ struct TConversionOptions {
   std::string sProgramDirectory;  ///< empty: that of the executable
 };
 
-/// Runs a job. Wrong usage (a job that isn't on offer, a tolerance that is no number, no language file):
-/// UsageError.
+/// Runs a job. Wrong usage (a job that isn't on offer, a tolerance that is no number, no language file, an
+/// output that is an input too): UsageError.
 TOutcome RunJob(const TJob& Job, const TConversionOptions& Options);
 
 }  // namespace vrek::batch
