@@ -22,6 +22,7 @@ Paging::Paging(std::function<void(int)> OnPress, QWidget* pParent)
   m_pLabel->setObjectName("lblPage");
   auto* pLayout = new QHBoxLayout(this);
   pLayout->setContentsMargins(0, 0, 0, 0);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   pLayout->addWidget(m_aButtons[1]);
   pLayout->addWidget(m_pLabel);
   pLayout->addWidget(m_aButtons[0]);

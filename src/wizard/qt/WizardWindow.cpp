@@ -44,8 +44,11 @@ WizardWindow::WizardWindow(frmWizard& Wizard, QtEvents& Events) : m_Wizard(Wizar
   m_Events.BeforeTurn = [this] { return RenderTurn(); };
 }
 
+// The focus goes while there is still someone to tell of it.
 WizardWindow::~WizardWindow() {
   m_Events.BeforeTurn = {};
+  if (auto* pFocus = focusWidget()) pFocus->clearFocus();
+  for (auto* pPage : m_aPages) pPage->disconnect(this);
 }
 
 void WizardWindow::Load() {

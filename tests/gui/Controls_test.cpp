@@ -1,0 +1,182 @@
+// Single controls of the window: file slots and drops, the numeric box, the report window, layers, dialogs.
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QTreeWidget>
+
+#include "gui/WizardRun.h"
+#include "wizard/qt/DialogFilter.h"
+#include "wizard/qt/ReportWindow.h"
+
+namespace vrek::test {
+namespace {
+
+const QString sCases = QString(VREK_GOLDEN_CASES) + "/";
+
+class Controls : public AppTest {
+ protected:
+  Controls() { Model.XmlFileToExport = (Directory / "out.xml").string(); }
+};
+
+TEST_F(Controls, FillTheSlotsOfAPageByTheEndingsOfDroppedFiles) {
+  WizardRun Run(Platform, Model, nAllJobs);
+  Run.Click("optDesign2");
+  Run.Click("cmdNext");
+  EXPECT_TRUE(
+      WizardRun::Drop(Run.Window.get(), {"/p/cant.XML", "/p/photo.jpg", "/p/axis.alz", "/p/axis.plt"}));
+  EXPECT_EQ(Run.Find<QLineEdit>("txtFileName0")->text(), "/p/axis.plt");
+  EXPECT_EQ(Run.Find<QLineEdit>("txtFileName1")->text(), "/p/axis.alz");
+  EXPECT_EQ(Run.Find<QLineEdit>("txtFileName3")->text(), "/p/cant.XML");
+  EXPECT_TRUE(Run.Find<QLabel>("lblStatus")->text().contains("photo.jpg"));
+  // On a box the first file is taken, whatever its ending; on another page nothing is.
+  EXPECT_TRUE(WizardRun::Drop(Run.Find("txtFileName0"), {"/p/other.txt", "/p/third.plt"}));
+  EXPECT_EQ(Run.Find<QLineEdit>("txtFileName0")->text(), "/p/other.txt");
+  Run.Click("cmdBack");
+  EXPECT_FALSE(WizardRun::Drop(Run.Window.get(), {"/p/axis.plt"}));
+}
+
+TEST_F(Controls, ShowAMissingFileWhenTheFocusHasLeftItsSlot) {
+  WizardRun Run(Platform, Model, nAllJobs);
+  Run.Click("optDesign2");
+  Run.Click("cmdNext");
+  Run.Type("txtFileName0", "/no/such.plt");
+  auto* pBox = Run.Find<QLineEdit>("txtFileName0");
+  EXPECT_TRUE(pBox->styleSheet().isEmpty());
+  Run.Click("chkFile1");
+  EXPECT_FALSE(pBox->styleSheet().isEmpty());
+  EXPECT_TRUE(pBox->toolTip().endsWith("/no/such.plt"));
+  // Next stays and brings the cursor back, which takes the colour away.
+  Run.Click("cmdNext");
+  EXPECT_EQ(Run.Wizard.CurrentPage(), ePageFiles);
+  EXPECT_TRUE(pBox->hasFocus());
+  EXPECT_TRUE(pBox->styleSheet().isEmpty());
+}
+
+TEST_F(Controls, MoveTheCursorToTheSlotThatIsWanted) {
+  WizardRun Run(Platform, Model, nAllJobs);
+  Run.Click("optDesign3");
+  Run.Click("cmdNext");
+  Run.Click("cmdNext");
+  EXPECT_EQ(Run.Find<QLabel>("lblPage")->text(), "2 / 3");
+  EXPECT_TRUE(Run.Find("txtFileName0")->hasFocus() || Run.Find("chkFile0")->hasFocus());
+}
+
+TEST_F(Controls, FilterTheKeysOfANumericBox) {
+  WizardRun Run(Platform, Model, nAllJobs);
+  Run.Click("optDesign2");
+  Run.Click("cmdNext");
+  Run.Type("txtFileName0", sCases + "via_unica_8km/Vía única.plt");
+  Run.Click("cmdNext");
+  auto* pBox = Run.Find<QLineEdit>("ctlTolerance0");
+  EXPECT_EQ(pBox->text(), "0.010");
+  pBox->selectAll();
+  for (const char c : std::string("0x,0b25")) QTest::keyClick(pBox, c);
+  EXPECT_EQ(pBox->text(), "0.025");
+  QTest::keyClick(pBox, '-');
+  EXPECT_EQ(pBox->text(), "0.025");
+  QTest::keyClick(pBox, Qt::Key_Backspace);
+  QTest::keyClick(pBox, '7');
+  EXPECT_EQ(pBox->text(), "0.027");
+  EXPECT_DOUBLE_EQ(Run.Wizard.ctlPreferences.ToleranceHz(), 0.027);
+  QGuiApplication::clipboard()->setText("9");
+  QTest::keyClick(pBox, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(pBox->text(), "0.027");
+  QGuiApplication::clipboard()->setText("1a2");
+  pBox->selectAll();
+  pBox->paste();  // as the context menu does
+  EXPECT_EQ(pBox->text(), "0.027");
+}
+
+class FailedImport : public Controls {
+ protected:
+  // A listing that isn't one is refused.
+  FailedImport() : Run(Platform, Model, nAllJobs) {
+    Run.Click("optDesign2");
+    Run.Click("cmdNext");
+    Run.Type("txtFileName0", QString::fromStdString(WriteFile("axis.plt", "no listing\r\n")));
+    Run.Click("cmdNext");
+    Run.Click("cmdNext");
+  }
+  WizardRun Run;
+};
+
+TEST_F(FailedImport, ShowsItsReportOnAClick) {
+  ASSERT_EQ(Run.Wizard.CurrentPage(), ePageImporting);
+  auto* pTree = Run.Find<QTreeWidget>("trFiles");
+  auto* pNode = pTree->topLevelItem(0)->child(0);
+  EXPECT_TRUE(pNode->toolTip(0).contains("Click"));
+  auto* pReport = Run.Window->findChild<qt::ReportWindow*>("frmReport");
+  QTest::mouseClick(pTree->viewport(), Qt::LeftButton, Qt::NoModifier,
+                    pTree->visualItemRect(pTree->topLevelItem(0)).center());
+  EXPECT_FALSE(pReport->isVisible());
+  QTest::mouseClick(pTree->viewport(), Qt::LeftButton, Qt::NoModifier, pTree->visualItemRect(pNode).center());
+  ASSERT_TRUE(pReport->isVisible());
+  EXPECT_EQ(pReport->windowTitle(), "axis");
+  EXPECT_FALSE(pReport->isModal());
+  auto* pText = pReport->findChild<QPlainTextEdit*>("txtReport");
+  EXPECT_EQ(pText->toPlainText().toStdString(), Model.GetToken("E_EMPTYFILE"));
+  EXPECT_TRUE(QFontInfo(pText->font()).fixedPitch());
+
+  QTest::mouseClick(pReport->findChild<QWidget*>("cmdCopy"), Qt::LeftButton);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), pText->toPlainText());
+  Platform.sSaveAnswer = (Directory / "report.txt").string();
+  QTest::mouseClick(pReport->findChild<QWidget*>("cmdSave"), Qt::LeftButton);
+  EXPECT_EQ(ReadFile(Directory / "report.txt"), Model.GetToken("E_EMPTYFILE"));
+  QTest::keyClick(pText, Qt::Key_Escape);
+  EXPECT_FALSE(pReport->isVisible());
+  EXPECT_TRUE(Run.Window->isVisible());
+}
+
+TEST_F(FailedImport, IsNotLeftForward) {
+  Run.Click("cmdNext");
+  EXPECT_EQ(Run.Wizard.CurrentPage(), ePageImporting);
+}
+
+TEST_F(Controls, CheckTheLayersOfARoad) {
+  WizardRun Run(Platform, Model, nAllJobs);
+  Run.Click("optDesign0");
+  Run.Click("cmdNext");
+  WizardRun::Drop(Run.Window.get(), {sCases + "road_0006/Тоннель 4.rtf", sCases + "road_0006/rasante.alz",
+                                     sCases + "road_0006/perfiles.TRV"});
+  Run.Click("cmdNext");
+  Run.Wizard.ctlPreferences.SetToleranceHz(0.02);
+  Run.Click("cmdNext");
+  Run.Click("cmdNext");
+  ASSERT_EQ(Run.Wizard.CurrentPage(), ePageExporting);
+  auto* pList = Run.Find<QListWidget>("lstLayers");
+  ASSERT_GT(pList->count(), 0);
+  Run.Click("cmdSelect1");
+  EXPECT_EQ(Run.Wizard.ctlExporting.GetSelectedLayers(), "__None__");
+  pList->setCurrentRow(0);
+  QTest::keyClick(pList, Qt::Key_Space);
+  EXPECT_EQ(Run.Wizard.ctlExporting.GetSelectedLayers(), "$" + pList->item(0)->text().toStdString() + "$");
+}
+
+// Every control that takes the focus says what it is, and no two on a page answer to the same letter.
+TEST_F(Controls, AreReachedByKeysAndNamed) {
+  WizardRun Run(Platform, Model, nAllJobs);
+  Run.Click("optDesign3");
+  Run.Click("cmdNext");
+  QStringList aLetters;
+  for (auto* pWidget : Run.Window->findChildren<QWidget*>()) {
+    if (!pWidget->isVisible() || !(pWidget->focusPolicy() & Qt::TabFocus)) continue;
+    const auto* pButton = qobject_cast<QAbstractButton*>(pWidget);
+    const bool bNamed = !pWidget->accessibleName().isEmpty() || (pButton && !pButton->text().isEmpty());
+    EXPECT_TRUE(bNamed) << pWidget->objectName().toStdString();
+    if (!pButton || !pButton->text().contains('&')) continue;
+    aLetters << pButton->text()[pButton->text().indexOf('&') + 1].toLower();
+  }
+  EXPECT_GE(aLetters.size(), 5);
+  EXPECT_EQ(aLetters.removeDuplicates(), 0);
+}
+
+TEST(DialogFilter, TakesTheToolkitsForm) {
+  EXPECT_EQ(qt::DialogFilter("(*.PLT;*.RTF)|*.plt;*.rtf|"), "(*.plt *.PLT *.rtf *.RTF)");
+  EXPECT_EQ(qt::DialogFilter("File xml (*.XML)|*.XML|"), "File xml (*.xml *.XML)");
+  EXPECT_EQ(qt::DialogFilter("LandXML(*.xml)|*.xml|Every(*.*)|*.*"), "LandXML (*.xml *.XML);;Every (*)");
+  EXPECT_EQ(qt::DialogFilter(""), "");
+}
+
+}  // namespace
+}  // namespace vrek::test

@@ -1,0 +1,145 @@
+// Whole jobs from the first page to the written file, by mouse and keys.
+#include <QTreeWidget>
+
+#include "gui/WizardRun.h"
+#include "shell/ProcessEnd.h"
+#include "wizard/qt/DrawingView.h"
+
+namespace vrek::test {
+namespace {
+
+const QString sDoubleTrack = QString(VREK_GOLDEN_CASES) + "/via_doble_6km/";
+
+class Jobs : public AppTest {
+ protected:
+  Jobs() {
+    Model.XmlFileToExport = (Directory / "doble.xml").string();
+    Model.ConversionInfo.sJobName = "Duplicación Vega–Río";
+    PreviousStop = SetProcessStop([this](int nCode) { nExit = nCode; });
+  }
+  ~Jobs() override { SetProcessStop(PreviousStop); }
+
+  static void FillDoubleTrack(WizardRun& Run, TestPlatform& Platform) {
+    // The centre: a file by the dialog, one by its path, and the option of the tracks' vertical alignments.
+    Platform.sOpenAnswer = (sDoubleTrack + "Eje de la duplicación.plt").toStdString();
+    Run.Click("cmdBrowse0");
+    Run.Type("txtFileName1", sDoubleTrack + "Rasante eje.alz");
+    Run.Click("chkOption1");
+    // The tracks: files dropped on the page find their slots; the first stays free to be dropped on.
+    Run.Click("cmdPage0");
+    EXPECT_TRUE(WizardRun::Drop(
+        Run.Window.get(), {sDoubleTrack + "Peraltes Vía izquierda.xml", sDoubleTrack + "Vía izquierda.plt"}));
+    Run.Click("cmdPage0");
+    EXPECT_TRUE(WizardRun::Drop(Run.Find("txtFileName0"), {sDoubleTrack + "Vía derecha.plt"}));
+    EXPECT_TRUE(WizardRun::Drop(Run.Find("txtFileName3"), {sDoubleTrack + "Peraltes Vía derecha.xml"}));
+  }
+
+  int nExit = -1;
+  std::function<void(int)> PreviousStop;
+};
+
+TEST_F(Jobs, WriteADoubleTrackByMouseAndKeys) {
+  WizardRun Run(Platform, Model, nAllJobs, false);
+  Run.Click("optDesign3");
+  Run.Key(Qt::Key_Return);
+  ASSERT_EQ(Run.Wizard.CurrentPage(), ePageFiles);
+  FillDoubleTrack(Run, Platform);
+  Run.Click("cmdNext");
+  ASSERT_EQ(Run.Wizard.CurrentPage(), ePagePreferences);
+  Run.Key(Qt::Key_Enter);
+  ASSERT_EQ(Run.Wizard.CurrentPage(), ePageImporting);
+  EXPECT_EQ(Run.Find<QTreeWidget>("trFiles")->topLevelItemCount(), 3);
+  Run.Click("cmdNext");
+  ASSERT_EQ(Run.Wizard.CurrentPage(), ePageExporting);
+  Run.Click("cmdNext");
+  ASSERT_EQ(Run.Wizard.CurrentPage(), ePageResult);
+  EXPECT_EQ(ReadFile(Model.XmlFileToExport), ReadFile((sDoubleTrack + "expected.xml").toStdString()));
+  EXPECT_TRUE(Platform.aBoxes.empty());
+
+  // The picture holds the three alignments; the second page of the summary is the left track's.
+  EXPECT_FALSE(Run.Find<qt::DrawingView>("picResult")->Drawing().aStrokes.empty());
+  Run.Click("cmdPage0");
+  EXPECT_EQ(Run.Find<QLabel>("lblPage")->text(), "2 / 3");
+  EXPECT_FALSE(Run.Find("cmdCancel")->isEnabled());
+  Run.Click("cmdNext");
+  EXPECT_EQ(nExit, 0);
+  EXPECT_EQ(Platform.aSettings["Files/Page3File1"], (sDoubleTrack + "Vía derecha.plt").toStdString());
+}
+
+TEST_F(Jobs, TakeTheFilesOfTheLastRunAgain) {
+  Model.DebugMode = true;
+  {
+    WizardRun First(Platform, Model, nAllJobs, false);
+    First.Click("optDesign3");
+    First.Click("cmdNext");
+    FillDoubleTrack(First, Platform);
+    for (int n = 0; n < 5; ++n) First.Click("cmdNext");
+    ASSERT_EQ(nExit, 0);
+  }
+  WizardRun Second(Platform, Model, nAllJobs);
+  Second.Click("optDesign3");
+  Second.Click("cmdNext");
+  Second.Click("cmdResume");
+  EXPECT_EQ(Second.Find<QLineEdit>("txtFileName0")->text(), sDoubleTrack + "Eje de la duplicación.plt");
+  EXPECT_EQ(Second.Find<QLineEdit>("txtFileName0")->toolTip(), sDoubleTrack + "Eje de la duplicación.plt");
+  Second.Click("cmdPage0");
+  EXPECT_EQ(Second.Find<QLineEdit>("txtFileName3")->text(), sDoubleTrack + "Peraltes Vía izquierda.xml");
+}
+
+TEST_F(Jobs, ComeBackFromTheResultAsTheyWere) {
+  WizardRun Run(Platform, Model, nAllJobs);
+  Run.Click("optDesign2");
+  Run.Click("cmdNext");
+  const QString sTrack = QString(VREK_GOLDEN_CASES) + "/via_unica_8km/";
+  Run.Type("txtFileName0", sTrack + "Vía única.plt");
+  for (int n = 0; n < 3; ++n) Run.Click("cmdNext");
+  ASSERT_EQ(Run.Wizard.CurrentPage(), ePageExporting);
+  const auto sTitle = Run.Find<QLabel>("lblTitle")->text();
+  Run.Click("cmdNext");
+  ASSERT_EQ(Run.Wizard.CurrentPage(), ePageResult);
+  EXPECT_FALSE(Run.IsOnShow("lblTitle"));
+  EXPECT_TRUE(Run.IsOnShow("cmdOpenFolder"));
+  Run.Click("cmdBack");
+  EXPECT_EQ(Run.Find<QLabel>("lblTitle")->text(), sTitle);
+  EXPECT_FALSE(Run.IsOnShow("cmdOpenFolder"));
+  EXPECT_TRUE(Run.Find("cmdCancel")->isEnabled());
+  Run.Click("cmdBack");
+  EXPECT_EQ(Run.Find<QLabel>("lblTitle")->text(), "Importing");
+}
+
+TEST_F(Jobs, EndWithACodeOnCancel) {
+  WizardRun Run(Platform, Model, nAllJobs);
+  Run.Key(Qt::Key_Escape);
+  EXPECT_EQ(nExit, -1);
+  EXPECT_TRUE(Run.Window->isVisible());
+  Run.Click("cmdCancel");
+  EXPECT_EQ(nExit, 1);
+  EXPECT_TRUE(Platform.aSettings.empty());
+}
+
+// While a run is on, the title bar's close box presses the panel's Cancel, and the window closes behind it.
+TEST_F(Jobs, CloseWhenTheRunHasEnded) {
+  WizardRun Run(Platform, Model, nAllJobs);
+  Run.Click("optDesign3");
+  Run.Click("cmdNext");
+  FillDoubleTrack(Run, Platform);
+  Run.Click("cmdNext");
+  bool bClosed = true, bDropTaken = true, bNextActed = true;
+  Platform.OnMessages = [&] {
+    Run.Events.ProcessMessages();
+    if (!Run.Wizard.ctlProgress.cmbCancel.Visible || Run.Wizard.CloseWanted()) return;
+    bDropTaken = WizardRun::Drop(Run.Window.get(), {sDoubleTrack + "Vía derecha.plt"});
+    bNextActed = Run.Find("cmdNext")->isEnabled();
+    bClosed = Run.Window->close();
+  };
+  Run.Click("cmdNext");
+  EXPECT_FALSE(bClosed);
+  EXPECT_FALSE(bDropTaken);
+  EXPECT_FALSE(bNextActed);
+  EXPECT_FALSE(Run.Window->isVisible());
+  EXPECT_EQ(Run.Wizard.ctlImporting.IsAllOk(), false);  // the generation was given up
+  EXPECT_EQ(Platform.aSettings.count("Preferences/ToleranceHz"), 1U);
+}
+
+}  // namespace
+}  // namespace vrek::test

@@ -1,0 +1,85 @@
+// The drawing of the Result page under mouse and keys.
+#include <QImage>
+#include <QSlider>
+#include <QTabBar>
+#include <QWheelEvent>
+
+#include "gui/WizardRun.h"
+#include "wizard/qt/DrawingView.h"
+
+namespace vrek::test {
+namespace {
+
+class Picture : public AppTest {
+ protected:
+  Picture() {
+    Model.XmlFileToExport = (Directory / "out.xml").string();
+    Run = std::make_unique<WizardRun>(Platform, Model, nAllJobs);
+    Run->Click("optDesign2");
+    Run->Click("cmdNext");
+    const QString sTrack = QString(VREK_GOLDEN_CASES) + "/via_unica_8km/";
+    WizardRun::Drop(Run->Window.get(),
+                    {sTrack + "Vía única.plt", sTrack + "Rasante vía única.alz", sTrack + "Peraltes.xml"});
+    for (int n = 0; n < 4; ++n) Run->Click("cmdNext");
+    pView = Run->Find<qt::DrawingView>("picResult");
+  }
+
+  std::unique_ptr<WizardRun> Run;
+  qt::DrawingView* pView = nullptr;
+};
+
+TEST_F(Picture, MovesAndZoomsAndFits) {
+  ASSERT_TRUE(pView);
+  const auto Whole = pView->View();
+  QTest::keyClick(pView, Qt::Key_Right);
+  EXPECT_GT(pView->View().dCentreX, Whole.dCentreX);
+  QTest::keyClick(pView, Qt::Key_Plus);
+  EXPECT_GT(pView->View().dScaleX, Whole.dScaleX);
+  const QPointF At(20, 30);
+  const auto Before = pView->View().ToMetres(At.x(), At.y());
+  QWheelEvent Wheel(At, pView->mapToGlobal(At), {}, {0, 240}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                    false);
+  QApplication::sendEvent(pView, &Wheel);
+  const auto After = pView->View().ToMetres(At.x(), At.y());
+  EXPECT_NEAR(After.dX, Before.dX, 1e-6);
+  EXPECT_NEAR(After.dY, Before.dY, 1e-6);
+  Run->Click("cmdFit");
+  EXPECT_DOUBLE_EQ(pView->View().dScaleX, Whole.dScaleX);
+  EXPECT_DOUBLE_EQ(pView->View().dCentreX, Whole.dCentreX);
+}
+
+TEST_F(Picture, TellsOfTheElementThatIsClicked) {
+  const auto First = Run->Wizard.ctlResult.GetValue(1, 1);
+  const auto At = pView->View().ToDevice(0, 0);  // the local origin is the start of the plan
+  QTest::mouseClick(pView, Qt::LeftButton, Qt::NoModifier, QPoint(qRound(At.dX), qRound(At.dY)));
+  const auto sText = Run->Find<QLabel>("lblElement")->text();
+  EXPECT_TRUE(sText.startsWith("Vía única: straight, chainage ")) << sText.toStdString();
+  QTest::mouseClick(pView, Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
+  EXPECT_EQ(Run->Find<QLabel>("lblElement")->text(), "");
+}
+
+TEST_F(Picture, LeafsThroughTheSections) {
+  Run->Find<QTabBar>("tabPicture")->setCurrentIndex(2);
+  auto* pSlider = Run->Find<QSlider>("sldSection");
+  ASSERT_GT(pSlider->maximum(), 0);
+  const auto First = pView->Drawing().aLabels.front().sText;
+  pSlider->setFocus();
+  QTest::keyClick(pSlider, Qt::Key_End);
+  EXPECT_NE(pView->Drawing().aLabels.front().sText, First);
+}
+
+TEST_F(Picture, IsSavedAsPngAndSvg) {
+  Platform.sSaveAnswer = (Directory / "plan.png").string();
+  Run->Click("cmdSavePicture");
+  EXPECT_EQ(QImage(QString::fromStdString(Platform.sSaveAnswer)).width(), 2 * pView->width());
+  Platform.sSaveAnswer = (Directory / "plan.SVG").string();
+  Run->Click("cmdSavePicture");
+  EXPECT_NE(ReadFile(Platform.sSaveAnswer).find("<polyline"), std::string::npos);
+  Platform.sSaveAnswer = (Directory / "no/such/folder.png").string();
+  Run->Click("cmdSavePicture");
+  ASSERT_EQ(Platform.aBoxes.size(), 1U);
+  EXPECT_EQ(Platform.aBoxes[0].eIcon, EIcon::eCritical);
+}
+
+}  // namespace
+}  // namespace vrek::test

@@ -1,0 +1,50 @@
+// The wizard's window on an in-memory platform, and a person's hands on it: mouse, keys, drops.
+#pragma once
+
+#include <QApplication>
+#include <QMimeData>
+#include <QTest>
+#include <memory>
+
+#include "shell/CommandLine.h"
+#include "support/TestApp.h"
+#include "wizard/frmWizard.h"
+#include "wizard/qt/WizardWindow.h"
+
+namespace vrek::test {
+
+inline constexpr int nAllJobs = 7;
+
+/// A window of its own for each run, with the English texts unless told otherwise.
+class WizardRun {
+ public:
+  WizardRun(TestPlatform& Platform, clsAppModel& Model, int nFormats, bool bTexts = true);
+  ~WizardRun();
+
+  /// A control on show, by its name; one that isn't there fails the test and gives nullptr.
+  template <class TWidget = QWidget>
+  TWidget* Find(const QString& sName) const {
+    for (auto* pWidget : Window->findChildren<TWidget*>(sName)) {
+      if (pWidget->isVisible()) return pWidget;
+    }
+    ADD_FAILURE() << "no " << sName.toStdString() << " on show";
+    return nullptr;
+  }
+  bool IsOnShow(const QString& sName) const;
+  void Click(const QString& sName) const;
+  void Key(Qt::Key eKey, Qt::KeyboardModifiers eModifiers = Qt::NoModifier) const;
+  /// Characters of any script, one key each, into a box that is clicked first.
+  void Type(const QString& sName, const QString& sText) const;
+  /// Gives whether the drop was taken.
+  static bool Drop(QWidget* pTarget, const QStringList& aFiles);
+  void Shoot(const QString& sFile) const;
+
+  qt::QtEvents Events;
+  frmWizard Wizard;
+  std::unique_ptr<qt::WizardWindow> Window;
+
+ private:
+  TestPlatform& m_Platform;
+};
+
+}  // namespace vrek::test
