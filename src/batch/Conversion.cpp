@@ -75,6 +75,7 @@ void CConversion::Start() {
   Model.XmlFileToExport = m_Job.sOutput;
   Model.ConversionInfo.sJobName = m_Job.sName;
   Model.ConversionInfo.sCreator = m_Job.sCreator;
+  Model.ConversionInfo.bExportOnce = true;
   if (!Model.TokenFile.ReadFile(m_Options.sLanguageFile)) {
     throw UsageError("the language file " + m_Options.sLanguageFile + " isn't beside the program");
   }

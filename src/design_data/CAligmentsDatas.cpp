@@ -106,6 +106,12 @@ void SetAligmentCr(int nAligment, TCrData Cr) {
   SetPart(nAligment, AligmentType::nCr, &TAligmentData::Cr, "SetAligmentCr", std::move(Cr));
 }
 
+TCrData TakeAligmentCr(int nAligment) {
+  TCrData Cr;
+  if (&GetAligmentCr(nAligment) == &Record(nAligment).Cr) std::swap(Cr, Record(nAligment).Cr);
+  return Cr;
+}
+
 std::shared_ptr<clsSuperelevation> GetAligmentSup(int nAligment) {
   return Part(nAligment, AligmentType::nSup, &TAligmentData::Sup, "GetAligmentSup",
               "There are not Sup aligment to return");

@@ -35,6 +35,8 @@ const TVtElements& GetAligmentVt(int nAligment);
 void SetAligmentVt(int nAligment, TVtElements aVt);
 const TCrData& GetAligmentCr(int nAligment);
 void SetAligmentCr(int nAligment, TCrData Cr);
+/// The cross-sections themselves, for a caller after whom nobody asks for them: the store keeps empty ones.
+TCrData TakeAligmentCr(int nAligment);
 std::shared_ptr<clsSuperelevation> GetAligmentSup(int nAligment);
 void SetAligmentSup(int nAligment, std::shared_ptr<clsSuperelevation> oSup);
 std::shared_ptr<clsTunnel> GetAligmentTnl(int nAligment);

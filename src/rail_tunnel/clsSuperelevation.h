@@ -42,6 +42,8 @@ struct TRowRadius {
   double dRadius = 0;
 };
 
+class CTrackAxis;
+
 class clsSuperelevation {
  public:
   /// Chainage of the first and of the last row. Without rows: failure 9.
@@ -81,6 +83,9 @@ class clsSuperelevation {
 
  private:
   int FindStation(double dChainage) const;
+  /// ComputeRails, for many chainages of one track.
+  bool RailsAt(double& r_dDist2CL, double& r_dHeightLeft, double& r_dHeightRight, int nAligment,
+               double dChainage, const CTrackAxis& Axis) const;
   static ERotationPoint GetRotationPoint(std::string_view sText);
 
   double m_dGauge = 0;

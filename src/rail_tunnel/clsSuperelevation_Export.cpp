@@ -16,6 +16,7 @@
 #include "design_data/CovertData.h"
 #include "geometry/Alg.h"
 #include "landxml/CLandXML.h"
+#include "rail_tunnel/TrackAxis.h"
 #include "rail_tunnel/clsSuperelevation.h"
 #include "shell/ErrHandler.h"
 
@@ -106,6 +107,7 @@ std::string PointLine(const TRails& Rails) {
 void clsSuperelevation::ExportToLandXml(double& rChainageStart, double& rChainageEnd,
                                         std::string_view sCrossSectName, int nAligment, double dChStart,
                                         double dChEnd, std::string_view sStringLine) const {
+  rChainageStart = rChainageEnd = 0;
   Guard("ExportToLandXML", [&] {
     const TLimits Limits{dChStart, dChEnd};
     TStringLine Kept;
@@ -118,16 +120,16 @@ void clsSuperelevation::ExportToLandXml(double& rChainageStart, double& rChainag
     CovertData::SortDoubles(aChainages, 1);
     // 5. - 7. what of them is written
     const TRange Range = ListRange(aChainages, Limits);
-    rChainageStart = rChainageEnd = 0;
     if (Range.nFirst >= Range.nLast || !CLandXML::TagCrossSects(false, "")) return;
     rChainageStart = Checked::At(aChainages, Range.nFirst);
     // 8. the sections
+    const CTrackAxis Axis(nAligment, sStringLine);
     TRails Rails;
     for (int i = Range.nFirst; i <= Range.nLast; ++i) {
       const double s = Checked::At(aChainages, i);
       if (!CLandXML::TagCrossSect(false, FormatReal(s, 6), sCrossSectName)) continue;
       if (CLandXML::TagCrossSectSurf(false, "Rails")) {
-        ComputeRails(Rails.dDist2CL, Rails.dHeightLeft, Rails.dHeightRight, nAligment, s, sStringLine);
+        RailsAt(Rails.dDist2CL, Rails.dHeightLeft, Rails.dHeightRight, nAligment, s, Axis);
         CLandXML::WriteTabbed(PointLine(Rails));
         rChainageEnd = s;
         CLandXML::TagFeature(true, "QN Vertex Name", RailNames(nAligment));

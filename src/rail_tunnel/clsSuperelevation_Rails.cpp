@@ -11,6 +11,7 @@
 #include "base/Checked.h"
 #include "design_data/CAligmentsDatas.h"
 #include "geometry/GM.h"
+#include "rail_tunnel/TrackAxis.h"
 #include "rail_tunnel/clsSuperelevation.h"
 #include "shell/ErrHandler.h"
 
@@ -71,15 +72,6 @@ double HalfDistance(const TCantStation& Row, double x) {
   return Checked::Divide(0.5 * Checked::Sqrt(S * S - x * x) * Row.dAppliedGauge, S);
 }
 
-// Height of the track's axis: its own profile, or that of the stringline that stands for it.
-double AxisHeight(int nAligment, double dChainage, std::string_view sStringLine) {
-  if ((CAligmentsDatas::GetAligmentType(nAligment) & AligmentType::nVt) != 0)
-    return GM::GetHeightAtChainage(CAligmentsDatas::GetAligmentVt(nAligment), dChainage);
-  TStringLine StringLine;
-  if (!CAligmentsDatas::GetAligmentStrLnWithName(nAligment, sStringLine, StringLine)) return 0;
-  return GM::GetHeightAtChainage(StringLine.Vt, dChainage);
-}
-
 double RadiusAt(int nAligment, const TCantStation& Row) {
   if (!NeedsRadius(Row.eRotationPoint)) return 0;
   return CAligmentsDatas::GetAligmentHzWithChainage(nAligment, Row.dStation).dRadius;
@@ -89,12 +81,18 @@ double RadiusAt(int nAligment, const TCantStation& Row) {
 
 bool clsSuperelevation::ComputeRails(double& r_dDist2CL, double& r_dHeightLeft, double& r_dHeightRight,
                                      int nAligment, double dChainage, std::string_view sStringLine) const {
+  return RailsAt(r_dDist2CL, r_dHeightLeft, r_dHeightRight, nAligment, dChainage,
+                 CTrackAxis(nAligment, sStringLine));
+}
+
+bool clsSuperelevation::RailsAt(double& r_dDist2CL, double& r_dHeightLeft, double& r_dHeightRight,
+                                int nAligment, double dChainage, const CTrackAxis& Axis) const {
   return Guard("ComputeRails", false, [&] {
     // 1. - 3. the row, the axis and the radius
     const int i = FindStation(dChainage);
     if (i == -1) return false;
     const TCantStation& Row = Checked::At(m_aStations, i);
-    const double Z = AxisHeight(nAligment, dChainage, sStringLine);
+    const double Z = Axis.Height(dChainage);
     const ELower eLower = LowerRail(Row, RadiusAt(nAligment, Row));
     // 4. by the point of rotation
     if (Row.eRotationPoint == ERotationPoint::ePlatformAxis) return true;

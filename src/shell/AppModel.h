@@ -36,6 +36,7 @@ struct CConversionInfo {
   std::string sJobName;  ///< given by -n; empty when none was given
   std::string sCreator;  ///< given by a script; empty: the user's name
   int nFilesToRead = 0;
+  bool bExportOnce = false;  ///< nobody exports again: the imported cross-sections may be used up
 
   /// Who is named as the document's author.
   std::string GetCreator() const;

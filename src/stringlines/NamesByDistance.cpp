@@ -44,13 +44,37 @@ void Join(TIndexes& aLast, TRange& Taken, const TRange& Range, const TIndexes& a
   Taken = {std::min(Taken.nFirst, Range.nFirst), std::max(Taken.nEnd, Range.nEnd)};
 }
 
+bool IsSpread(const TPoints& aPoints, double dTolerance) {
+  for (std::size_t n = 1; n < aPoints.size(); ++n) {
+    if (!(aPoints[n].dOffset - aPoints[n - 1].dOffset >= 3 * dTolerance)) return false;
+  }
+  return true;
+}
+
+// Both lists in order of offset and their points well apart, as on most roads: each group is one point to
+// one, and the lists are gone through side by side. Gives how many were named.
+std::size_t NameSpreadLists(TPoints& aThis, const TPoints& aLast, double dTolerance) {
+  std::size_t nNamed = 0;
+  auto Last = aLast.begin();
+  for (TCrPoint& Point : aThis) {
+    while (Last != aLast.end() && Point.dOffset - Last->dOffset >= dTolerance) ++Last;
+    if (Last == aLast.end()) break;
+    if (Last->dOffset - Point.dOffset >= dTolerance) continue;
+    Point.sCode = Last->sCode;
+    ++nNamed;
+  }
+  return nNamed;
+}
+
 }  // namespace
 
 void NamesByDistance(TCrData& Cr, int nSection, int nSurface, double dTolerance) {
   TCrSurface& Surface = Checked::At(Checked::At(Cr.Sections, nSection).Surfaces, nSurface);
   const TThisAndLast Lists = GetPointThisAndLast(Cr, nSection, nSurface);
   std::size_t nNamed = 0;
-  if (Lists) {
+  if (Lists && IsSpread(*Lists.pThis, dTolerance) && IsSpread(*Lists.pLast, dTolerance)) {
+    nNamed = NameSpreadLists(*Lists.pThis, *Lists.pLast, dTolerance);
+  } else if (Lists) {
     auto aGroups = GroupByDistance(*Lists.pThis, *Lists.pLast, dTolerance);
     nNamed = static_cast<std::size_t>(NameGroups(*Lists.pThis, *Lists.pLast, aGroups));
   } else {

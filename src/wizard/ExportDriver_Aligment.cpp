@@ -82,10 +82,12 @@ void ExportDriver::ExportProfile(int nAligment) {
 
 void ExportDriver::ExportAligmentCr(int nAligment) {
   auto& Progress = m_Window.ctlProgress;
-  // 1. - 3. the engine works on a copy: each export starts from what was read
+  // 1. - 3. the engine works on a copy: each export starts from what was read. Where none follows, on the
+  // data.
   Progress.Tittle(AppModel().GetToken("T_EXPORTING_CR"));
   Progress.ShowCancel(true);
-  TCrData Cr = CAligmentsDatas::GetAligmentCr(nAligment);
+  TCrData Cr = AppModel().ConversionInfo.bExportOnce ? CAligmentsDatas::TakeAligmentCr(nAligment)
+                                                     : CAligmentsDatas::GetAligmentCr(nAligment);
   const auto sLines = m_Window.ctlExporting.GetSelectedLayers();
   Trace(sLines);
   // 4. - 7.

@@ -1,6 +1,6 @@
 #include <cmath>
 
-#include "rail_tunnel/Tracks.h"
+#include "unit/rail_tunnel/Tracks.h"
 
 namespace vrek {
 namespace {
@@ -38,8 +38,9 @@ TEST_F(CantTable, ReadsTheSingleCantForm) {
 }
 
 TEST_F(CantTable, ReadsTheFormWithBothLifts) {
-  const auto Cant = Table(Row(100, 15, -30) + "<CantStation station='110' appliedCantLeft='1' appliedCantRight='2' "
-                                              "rotationPoint='center' appliedGauge='1' appliedSuperelevation='2'/>");
+  const auto Cant = Table(Row(100, 15, -30) +
+                          "<CantStation station='110' appliedCantLeft='1' appliedCantRight='2' "
+                          "rotationPoint='center' appliedGauge='1' appliedSuperelevation='2'/>");
   EXPECT_EQ(Cant.Stations()[0].dAppliedCantLeft, 15 * 0.001);
   EXPECT_EQ(Cant.Stations()[0].dAppliedCantRight, -30 * 0.001);
   EXPECT_EQ(Cant.Stations()[1].eRotationPoint, ERotationPoint::eGivenByRails);
@@ -71,11 +72,15 @@ TEST_F(CantTable, RefusesOtherFilesWithTheirMessage) {
       {sRoot + sRow + "</Cant>", "E_FILE_SUPER"},
       {sRoot + sRow + "</Cant><!--'2.0.1'-->", ""},
       {sGood + "<cant/>", "E_NOVALIDFILE"},
-      {sGood + "<n:Cant xmlns:n='u' gauge='1' superelevationBase='1' rotationPoint='' coPlane=''>" + sRow + "</n:Cant>", ""},
+      {sGood + "<n:Cant xmlns:n='u' gauge='1' superelevationBase='1' rotationPoint='' coPlane=''>" + sRow +
+           "</n:Cant>",
+       ""},
       {sGood + sRoot + "<CantStations/></Cant>", "E_NOTFINDXMLELM"},
       {sGood + "<Cant gauge='1' superelevationBase='1' rotationPoint='center'>" + sRow + "</Cant>", sNotSet},
-      {sGood + sRoot + sRow + "<CantStation station='1' appliedCantLeft='0' appliedCantRight='0' appliedGauge='1' "
-                              "appliedSuperelevation='1'/></Cant>", sNotSet},
+      {sGood + sRoot + sRow +
+           "<CantStation station='1' appliedCantLeft='0' appliedCantRight='0' appliedGauge='1' "
+           "appliedSuperelevation='1'/></Cant>",
+       sNotSet},
       {sGood + sRoot + "<CantStation/></Cant>", sNotSet},
       {sGood + sRoot, "E_OPENLANDXML\r\nPremature end of data in tag Cant line 1 (line 1, column " +
                           std::to_string(sGood.size() + sRoot.size() + 1) + ")"},
@@ -102,7 +107,8 @@ TEST_F(CantTable, GivesTheSlopeOfASingleCant) {
   EXPECT_NEAR(Cant.GetSlopeInChainage(150), std::asin(0.075 / 1.5), 1e-15);
   EXPECT_NEAR(Cant.GetSlopeInChainage(200), std::asin(0.150 / 1.5), 1e-15);
   EXPECT_NEAR(Cant.GetSlopeInChainage(225), std::asin(0.13125 / 1.5), 1e-15);
-  EXPECT_NEAR(Cant.GetSlopeInChainage(301), std::asin(0.075 / 1.5), 1e-15) << "beyond the table its last row stands";
+  EXPECT_NEAR(Cant.GetSlopeInChainage(301), std::asin(0.075 / 1.5), 1e-15)
+      << "beyond the table its last row stands";
 }
 
 TEST_F(CantTable, GivesTheSlopeBetweenBothLifts) {
@@ -135,12 +141,14 @@ TEST_F(CantTable, FailsOnABaseOfNothingAndACantBeyondIt) {
       return static_cast<int>(Error.nNumber);
     }
   };
-  const std::string sBegin = "<CantStation station='0' appliedCant='1501' rotationPoint='center' appliedGauge='1' ";
+  const std::string sBegin =
+      "<CantStation station='0' appliedCant='1501' rotationPoint='center' appliedGauge='1' ";
   EXPECT_EQ(NumberOf(Table(sBegin + "appliedSuperelevation='0'/>")), Error::nDivisionByZero);
   EXPECT_EQ(NumberOf(Table(sBegin + "appliedSuperelevation='1.5'/>")), Error::nInvalidCall);
-  EXPECT_EQ(NumberOf(Table("<CantStation station='0' appliedCant='1e400' rotationPoint='center' appliedGauge='1' "
-                           "appliedSuperelevation='1.5'/>")),
-            Error::nOverflow);
+  EXPECT_EQ(
+      NumberOf(Table("<CantStation station='0' appliedCant='1e400' rotationPoint='center' appliedGauge='1' "
+                     "appliedSuperelevation='1.5'/>")),
+      Error::nOverflow);
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include <cmath>
 #include <random>
 
-#include "rail_tunnel/Tracks.h"
+#include "unit/rail_tunnel/Tracks.h"
 
 namespace vrek {
 namespace {
@@ -25,7 +25,9 @@ class Rails : public test::TrackTest {
 
 // Half the plan distance of two rails a gauge apart on a plane that rises by dRise over the base: the plane's
 // unit vector across the track, times half the gauge, seen from above.
-double SeenFromAbove(double dRise) { return 0.5 * dGauge * std::cos(std::asin(dRise / dBase)); }
+double SeenFromAbove(double dRise) {
+  return 0.5 * dGauge * std::cos(std::asin(dRise / dBase));
+}
 
 TEST_F(Rails, FollowTheRotationPointAndTheCurve) {
   constexpr double c = 0.080;
@@ -79,7 +81,7 @@ TEST_F(Rails, TakeTheRowWithoutInterpolation) {
   double d = 0, dLeft = 0, dRight = 0;
   EXPECT_TRUE(Cant.ComputeRails(d, dLeft, dRight, 1, 19.999));
   EXPECT_EQ(dRight, dZ);
-  EXPECT_EQ(d, 0.7175);
+  EXPECT_NEAR(d, 0.7175, 1e-15);
   EXPECT_TRUE(Cant.ComputeRails(d, dLeft, dRight, 1, 500));
   EXPECT_EQ(dRight, dZ + 0.080) << "beyond the table";
 }
@@ -175,7 +177,8 @@ TEST_F(CantPlane, LeavesTheHeightBeforeTheTableAndOnAFailure) {
   EXPECT_TRUE(Platform.aBoxes.empty());
   EXPECT_FALSE(Table(Row(10, 1600, "leftRail")).CalcHeightVtAligmentCoplane(2, 10, 4, dHeight, true));
   EXPECT_EQ(dHeight, dZ);
-  EXPECT_EQ(Boxes(), "Unhandler Error in ModifyHeightVtAligmentCoplane\r\nInvalid procedure call or argument|");
+  EXPECT_EQ(Boxes(),
+            "Unhandler Error in ModifyHeightVtAligmentCoplane\r\nInvalid procedure call or argument|");
 }
 
 }  // namespace

@@ -75,8 +75,9 @@ class TrackTest : public AppTest {
   }
   /// A row with both lifts, millimetres.
   static std::string Row(double dStation, double dLeft, double dRight) {
-    return "<CantStation station='" + std::to_string(dStation) + "' appliedCantLeft='" + std::to_string(dLeft) +
-           "' appliedCantRight='" + std::to_string(dRight) + "' appliedGauge='1.435' appliedSuperelevation='1.5'/>";
+    return "<CantStation station='" + std::to_string(dStation) + "' appliedCantLeft='" +
+           std::to_string(dLeft) + "' appliedCantRight='" + std::to_string(dRight) +
+           "' appliedGauge='1.435' appliedSuperelevation='1.5'/>";
   }
   clsSuperelevation Table(std::string_view sRows, bool bCoPlane = false) {
     clsSuperelevation Cant;

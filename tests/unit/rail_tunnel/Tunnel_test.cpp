@@ -30,8 +30,9 @@ TEST_F(Tunnel, PassesItsTextThroughAsItsBytesStand) {
   ASSERT_TRUE(Load("<?xml version='1.0' encoding='ISO-8859-1'?>\r\n<TunnelProfiles " + sAllBytes +
                    ">\r\n\t<TunnelProfile sta='20,5'\r\nname='a'/>\r\n  <TunnelProfile sta='3.25'/>\r\n"
                    "</TunnelProfiles>\r\n\r\n"));
-  EXPECT_EQ(Written(), "\t<TunnelProfiles " + sAllBytes +
-                           ">\t<TunnelProfile sta='20,5'name='a'/>  <TunnelProfile sta='3.25'/></TunnelProfiles>\r\n");
+  EXPECT_EQ(Written(),
+            "\t<TunnelProfiles " + sAllBytes +
+                ">\t<TunnelProfile sta='20,5'name='a'/>  <TunnelProfile sta='3.25'/></TunnelProfiles>\r\n");
   EXPECT_EQ(Bore.GetChainages(), (std::vector<double>{3.25, 20.5})) << "rising";
 }
 
@@ -78,7 +79,8 @@ TEST_F(Tunnel, RefusesOtherFilesWithTheirMessage) {
 TEST_F(Tunnel, ReportsThatItHasNoProfilesToWrite) {
   double dStart = 0, dEnd = 0;
   EXPECT_FALSE(Bore.ExportToLandXml(dStart, dEnd));
-  EXPECT_EQ(Platform.aBoxes.at(0).sText, "Unhandler Error in clsTunnel.ExportToLandXml\r\nSubscript out of range");
+  EXPECT_EQ(Platform.aBoxes.at(0).sText,
+            "Unhandler Error in clsTunnel.ExportToLandXml\r\nSubscript out of range");
 }
 
 }  // namespace
