@@ -1,5 +1,6 @@
 // The program on the command line: what it writes, what it says, how it ends.
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <nlohmann/json.hpp>
 #include <thread>
@@ -126,7 +127,7 @@ TEST_F(Command, AnInputIsNeverTheOutput) {
   const auto sJob = Project("rail", "rail");
   const auto sPlan = (Directory / "rail" / "Track.plt").string();
   const auto sBefore = Read(sPlan);
-  for (const std::string sOutput : {sPlan, (Directory / "rail" / ".." / "rail" / "Track.plt").string()}) {
+  for (const std::string& sOutput : {sPlan, (Directory / "rail" / ".." / "rail" / "Track.plt").string()}) {
     const auto Result = Run({"rail", "--hz", sPlan, "-o", sOutput});
     EXPECT_EQ(Result.nStatus, 2);
     EXPECT_TRUE(Has(Result.sErr, "is an input"));

@@ -11,9 +11,11 @@
 #include <string>
 #include <vector>
 
-namespace vrek::test {
-
+namespace vrek {
 namespace fs = std::filesystem;
+}
+
+namespace vrek::test {
 
 struct TRun {
   int nStatus = -1;  ///< exit status
