@@ -67,7 +67,7 @@ TEST_F(Command, TellsWrongUsage) {
     const char* sSays;
   } aRows[] = {
       {{}, "subcommand"},
-      {{"bridge"}, "bridge"},
+      {{"bridge"}, "unknown command \"bridge\""},
       {{"rail", "--hz", sPlan}, "--output is required"},
       {{"rail", "--hz"}, "--hz"},
       {{"rail", "--cross", "x", "-o", "o"}, "--cross"},

@@ -46,6 +46,7 @@ class ProgramTest : public ::testing::Test {
   }
   /// A copy of an example project; gives its job file.
   std::string Project(const std::string& sExample, const std::string& sAs) const {
+    fs::create_directories((Directory / sAs).parent_path());
     fs::copy(fs::path(VREK_EXAMPLES) / sExample, Directory / sAs, fs::copy_options::recursive);
     for (const auto& Entry : fs::directory_iterator(Directory / sAs)) {
       fs::permissions(Entry, fs::perms::owner_write, fs::perm_options::add);
