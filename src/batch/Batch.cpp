@@ -33,7 +33,7 @@ void Tell(const TOutcome& Outcome, bool bCheckOnly, std::ostream& Err) {
     std::erase(sText, '\r');
     if (Message.bBox) Err << sText << "\n";
   }
-  if (!Outcome.bValid) Err << "a file is missing or can't be opened: page,slot " << Outcome.sFault << "\n";
+  if (!Outcome.bValid) Err << "refused: " << Outcome.sFaultText << "\n";
   TellFiles(Outcome, Err);
   if (Outcome.bExported) Err << "written: " << Outcome.sOutput << "\n";
   if (bCheckOnly && Outcome.eStatus == eConverted) Err << "all files are good\n";

@@ -42,6 +42,7 @@ struct TLayerResult {
 struct TOutcome {
   std::string sJob, sOutput;
   bool bValid = false;     ///< the Files page could be left
+  std::string sFaultText;  ///< the same in words: page, slot and path
   std::string sFault;      ///< "page,slot" where it couldn't
   bool bImported = false;  ///< every file was read and passed its checks
   bool bExported = false;  ///< the document is in its place

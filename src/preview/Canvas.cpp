@@ -33,9 +33,11 @@ bool SamePlace(const TPlotPoint& A, const TPlotPoint& B) {
   return std::fabs(A.dX - B.dX) < dSamePlace && std::fabs(A.dY - B.dY) < dSamePlace;
 }
 
-std::size_t Characters(const std::string& sText) {
-  return static_cast<std::size_t>(
-      std::count_if(sText.begin(), sText.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+// About as wide as a text comes out in a plain font.
+double TextWidth(const std::string& sText) {
+  const auto nCharacters =
+      std::count_if(sText.begin(), sText.end(), [](char c) { return (c & 0xC0) != 0x80; });
+  return 0.58 * Drawing::dTextHeight * static_cast<double>(nCharacters);
 }
 
 }  // namespace
@@ -71,7 +73,7 @@ void CCanvas::LineInMetres(const std::vector<TPlotPoint>& aPoints, const TStroke
 }
 
 bool CCanvas::Label(const TLabel& Label) {
-  const double dWidth = 0.6 * Drawing::dTextHeight * static_cast<double>(Characters(Label.sText));
+  const double dWidth = TextWidth(Label.sText);
   const double dLeft = Label.At.dX - (Label.eAnchor == EAnchor::eStart    ? 0
                                       : Label.eAnchor == EAnchor::eMiddle ? dWidth / 2
                                                                           : dWidth);
@@ -84,6 +86,18 @@ bool CCanvas::Label(const TLabel& Label) {
   m_aTaken.push_back(Box);
   m_Drawing.aLabels.push_back(Label);
   return true;
+}
+
+void CCanvas::Legend(const TStroke& Style, const std::string& sText) {
+  constexpr double dSample = 24, dGap = 6, dMargin = 8;
+  const double dWidth = dSample + dGap + TextWidth(sText) + 2 * dGap;
+  if (m_NextLegend.dX > dMargin && m_NextLegend.dX + dWidth > m_View.dWidth) {
+    m_NextLegend = {dMargin, m_NextLegend.dY + Drawing::dTextHeight + dGap};
+  }
+  const double dX = m_NextLegend.dX, dY = m_NextLegend.dY;
+  Line({{dX, dY - 4}, {dX + dSample, dY - 4}}, Style);
+  Label({{dX + dSample + dGap, dY}, sText, EAnchor::eStart, EInk::eText});
+  m_NextLegend.dX += dWidth;
 }
 
 bool CCanvas::IsInside(const TPlotPoint& Point) const {

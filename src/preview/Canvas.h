@@ -23,6 +23,8 @@ class CCanvas {
   /// True when there was room for it.
   bool Label(const TLabel& Label);
   bool IsInside(const TPlotPoint& Point) const;
+  /// A sample of a stroke and what it stands for, in rows from the upper left on.
+  void Legend(const TStroke& Style, const std::string& sText);
 
   TDrawing Take() { return std::move(m_Drawing); }
 
@@ -34,7 +36,8 @@ class CCanvas {
 
   TViewport m_View;
   TDrawing m_Drawing;
-  std::vector<TBox> m_aTaken;  // by labels
+  std::vector<TBox> m_aTaken;      // by labels
+  TPlotPoint m_NextLegend{8, 14};  // where the next entry of the legend goes
 };
 
 }  // namespace vrek

@@ -43,13 +43,6 @@ void DrawGrid(CCanvas& Canvas, bool bChainages) {
   }
 }
 
-void Legend(CCanvas& Canvas, double& dTop, int nSeries, const std::string& sText) {
-  const double dRight = Canvas.View().dWidth - 8;
-  if (!Canvas.Label({{dRight - 32, dTop + 4}, sText, EAnchor::eEnd, EInk::eText})) return;
-  Canvas.Line({{dRight - 26, dTop}, {dRight, dTop}}, {{}, EInk::eSeries, nSeries, 3, false});
-  dTop += dTextHeight + 6;
-}
-
 void DrawNothing(CCanvas& Canvas, const TPlotWords& Words) {
   const auto& View = Canvas.View();
   Canvas.Label({{View.dWidth / 2, View.dHeight / 2}, Words.sNothing, EAnchor::eMiddle, EInk::eText});
@@ -63,10 +56,10 @@ TDrawing DrawProfile(const TPreview& Shown, const TViewport& View, const TPlotWo
     DrawNothing(Canvas, Words);
     return Canvas.Take();
   }
-  double dTop = 12;
   for (std::size_t a = 0; a < Shown.aAligments.size(); ++a) {
     const auto& Aligment = Shown.aAligments[a];
-    if (!Aligment.aProfile.empty()) Legend(Canvas, dTop, static_cast<int>(a), Aligment.sName);
+    if (Aligment.aProfile.empty()) continue;
+    Canvas.Legend({{}, EInk::eSeries, static_cast<int>(a), 3, false}, Aligment.sName);
   }
   DrawGrid(Canvas, true);
   for (std::size_t a = 0; a < Shown.aAligments.size(); ++a) {
@@ -82,14 +75,13 @@ TDrawing DrawProfile(const TPreview& Shown, const TViewport& View, const TPlotWo
 
 TDrawing DrawSection(const TPreviewSection& Section, const TViewport& View, const TPlotWords& Words) {
   CCanvas Canvas(View);
-  double dTop = 12;
-  Canvas.Label({{View.dWidth / 2, 16},
+  Canvas.Label({{View.dWidth / 2, View.dHeight - 2 * dTextHeight},
                 Words.sChainage + " " + ChainageText(Section.dChainage, 3),
                 EAnchor::eMiddle,
                 EInk::eText});
   for (std::size_t n = 0; n < Section.aLines.size(); ++n) {
     const auto& sName = Section.aLines[n].sName;
-    Legend(Canvas, dTop, static_cast<int>(n), sName.empty() ? Words.sRail : sName);
+    Canvas.Legend({{}, EInk::eSeries, static_cast<int>(n), 3, false}, sName.empty() ? Words.sRail : sName);
   }
   DrawGrid(Canvas, false);
   const double dAxis = View.ToDevice(0, 0).dX;

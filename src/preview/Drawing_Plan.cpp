@@ -63,17 +63,9 @@ void DrawChainages(CCanvas& Canvas, const TPreviewAligment& Aligment, int nSerie
   }
 }
 
-void LegendLine(CCanvas& Canvas, double& dTop, const TStroke& Style, const std::string& sText) {
-  constexpr double dLeft = 8, dSample = 26;
-  if (!Canvas.Label({{dLeft + dSample + 6, dTop + 4}, sText, EAnchor::eStart, EInk::eText})) return;
-  Canvas.Line({{dLeft, dTop}, {dLeft + dSample, dTop}}, Style);
-  dTop += dTextHeight + 6;
-}
-
 void DrawLegend(CCanvas& Canvas, const TPreview& Shown, const TPlotWords& Words) {
-  double dTop = 12;
   for (std::size_t n = 0; n < Shown.aAligments.size(); ++n) {
-    LegendLine(Canvas, dTop, {{}, EInk::eSeries, static_cast<int>(n), 3, false}, Shown.aAligments[n].sName);
+    Canvas.Legend({{}, EInk::eSeries, static_cast<int>(n), 3, false}, Shown.aAligments[n].sName);
   }
   TPlanElement Sample;
   for (const auto& [eKind, sWord] : {std::pair{Alg::eStraight, Words.sStraight},
@@ -82,7 +74,7 @@ void DrawLegend(CCanvas& Canvas, const TPreview& Shown, const TPlotWords& Words)
     Sample.eKind = eKind;
     TStroke Style = ElementStyle(Sample, 0);
     Style.eInk = EInk::eText;
-    LegendLine(Canvas, dTop, Style, sWord);
+    Canvas.Legend(Style, sWord);
   }
 }
 

@@ -129,6 +129,7 @@ void ctlFiles::LoadControls() {
     Control.Filter = Slot.sFilter;
     Control.SetEditCmd(Slot.sEditCmd);
     Control.SetChecked(Slot.bChecked);
+    Control.txtFileName.Enabled = true;  // a slot that comes on show empty waits for a path
     Control.SetOption(Slot.bShowOption, Slot.bOptionValue, Slot.sOptionCaption);
     Control.txtFileName.FileMissing = false;
   }

@@ -38,16 +38,14 @@ void FilesView::LayOut() {
   auto* pSlots = new QVBoxLayout(m_pFrame);
   for (auto* pSlot : m_aSlots) pSlots->addWidget(pSlot);
   pSlots->addStretch(1);
-  auto* pUpper = new QHBoxLayout;
-  pUpper->addWidget(m_pFrame, 1);
-  pUpper->addWidget(m_pRails);
   auto* pLower = new QHBoxLayout;
   pLower->addWidget(m_pResume);
   pLower->addWidget(m_pInfo, 1);
   pLower->addStretch();
+  pLower->addWidget(m_pRails);
   pLower->addWidget(m_pPaging);
   auto* pLayout = new QVBoxLayout(this);
-  pLayout->addLayout(pUpper, 1);
+  pLayout->addWidget(m_pFrame, 1);
   pLayout->addLayout(pLower);
 }
 

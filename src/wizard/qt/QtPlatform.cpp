@@ -2,7 +2,9 @@
 
 #include <QFileDialog>
 #include <QIcon>
+#include <QLibraryInfo>
 #include <QMessageBox>
+#include <QTranslator>
 #include <cstdio>
 
 #include "base/Configuration.h"
@@ -59,6 +61,12 @@ bool LazyApplication::Ensure() {
   QCoreApplication::setApplicationName("vrek");
   QGuiApplication::setDesktopFileName("vrek");
   QApplication::setWindowIcon(QIcon(":/vrek.svg"));
+  // The toolkit's own words, such as those of its file dialog, where its translations are installed.
+  auto* pTranslator = new QTranslator(m_pApplication.get());
+  if (pTranslator->load(QLocale::system(), "qtbase", "_",
+                        QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(pTranslator);
+  }
   return true;
 }
 

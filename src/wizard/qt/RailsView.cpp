@@ -15,11 +15,11 @@ QColor Color(int nBgr) {
 }  // namespace
 
 RailsView::RailsView(const ctlRails& Control, QWidget* pParent) : QWidget(pParent), m_Control(Control) {
-  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 QSize RailsView::sizeHint() const {
-  return {fontMetrics().averageCharWidth() * 18, fontMetrics().height() * 6};
+  return {fontMetrics().averageCharWidth() * 20, fontMetrics().height() * 3};
 }
 
 void RailsView::paintEvent(QPaintEvent*) {

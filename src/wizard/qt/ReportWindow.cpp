@@ -51,7 +51,7 @@ ReportWindow::ReportWindow(frmReport& Report, QWidget* pParent)
   auto* pLayout = new QVBoxLayout(this);
   pLayout->addWidget(m_pText);
   pLayout->addWidget(pButtons);
-  resize(m_pText->fontMetrics().averageCharWidth() * 90, m_pText->fontMetrics().lineSpacing() * 24);
+  resize(m_pText->fontMetrics().averageCharWidth() * 115, m_pText->fontMetrics().lineSpacing() * 24);
 }
 
 void ReportWindow::Render() {

@@ -42,8 +42,9 @@ QWidget* ResultView::MakeRows() {
         emit Used();
       },
       m_pFrame);
-  pGrid->addWidget(m_pPaging, 5, 4, Qt::AlignRight | Qt::AlignBottom);
+  pGrid->addWidget(m_pPaging, 0, 4, 6, 1, Qt::AlignRight | Qt::AlignTop);
   pGrid->setColumnStretch(3, 1);
+  pGrid->setVerticalSpacing(pGrid->verticalSpacing() / 2);
   return m_pFrame;
 }
 

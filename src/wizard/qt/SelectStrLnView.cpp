@@ -23,12 +23,13 @@ SelectStrLnView::SelectStrLnView(ctlSelectStrLns& Control, QWidget* pParent)
         emit Used();
       },
       this);
-  auto* pUpper = new QHBoxLayout;
-  pUpper->addWidget(m_pFrame, 1);
-  pUpper->addWidget(m_pRails);
+  auto* pLower = new QHBoxLayout;
+  pLower->addStretch();
+  pLower->addWidget(m_pRails);
+  pLower->addWidget(m_pPaging);
   auto* pLayout = new QVBoxLayout(this);
-  pLayout->addLayout(pUpper, 1);
-  pLayout->addWidget(m_pPaging, 0, Qt::AlignRight);
+  pLayout->addWidget(m_pFrame, 1);
+  pLayout->addLayout(pLower);
 }
 
 SelectStrLnView::TSelector SelectStrLnView::MakeSelector(std::size_t nSelector) {
