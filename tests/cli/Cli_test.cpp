@@ -120,7 +120,7 @@ TEST_F(Command, ARefusedFileLeavesAnEarlierOutputAlone) {
   }
   const auto Missing = Run({"rail", "--hz", "nowhere.plt", "-o", "out.xml"});
   EXPECT_EQ(Missing.nStatus, 1);
-  EXPECT_TRUE(Has(Missing.sErr, "page,slot 1,1"));
+  EXPECT_TRUE(Has(Missing.sErr, "can't open nowhere.plt"));
 }
 
 TEST_F(Command, AnInputIsNeverTheOutput) {
