@@ -16,6 +16,7 @@ namespace {
 struct TConvertOptions {
   TJob Job;
   std::vector<std::string> aJobFiles;
+  int nProcesses = 0;
   bool bFromCentre = false, bLeftFromRight = false, bRightFromLeft = false;
 };
 
@@ -124,6 +125,11 @@ TCommands AddCommands(CLI::App& App, TConvertOptions& Options, bool bCheckOnly) 
   }
   Commands.pRun = App.add_subcommand("run", bCheckOnly ? "check what job files name" : "run job files");
   Commands.pRun->add_option("job", Options.aJobFiles, "job files (TOML)")->required()->type_name("JOB.toml");
+  Commands.pRun
+      ->add_option("-j,--jobs", Options.nProcesses,
+                   "run so many job files at a time, each in a process of its own")
+      ->type_name("N")
+      ->check(CLI::Range(1, 256));
   return Commands;
 }
 
@@ -134,6 +140,11 @@ void TakeJobs(const TCommands& Commands, const TConvertOptions& Options, TArgume
     Arguments.aJobs.back().nJob = static_cast<int>(n);
   }
   if (!Commands.pRun->parsed()) return;
+  Arguments.nProcesses = Options.nProcesses;
+  if (Options.nProcesses > 0) {
+    Arguments.aJobFiles = Options.aJobFiles;
+    return;
+  }
   for (const auto& sFile : Options.aJobFiles) {
     Arguments.aJobs.push_back(ReadJobFile(sFile));
     if (!Arguments.bCheckOnly && Arguments.aJobs.back().sOutput.empty()) {

@@ -44,6 +44,7 @@ class CConversion {
   void Start();
   void ChooseJob();
   bool ChooseFiles();
+  void KeepFault();
   void TypeSlots(const TAligmentFiles& Files);
   void TypePreferences();
   void TypeExport();
@@ -76,7 +77,9 @@ void CConversion::Start() {
   Model.ConversionInfo.sJobName = m_Job.sName;
   Model.ConversionInfo.sCreator = m_Job.sCreator;
   Model.ConversionInfo.bExportOnce = true;
-  if (!Model.TokenFile.ReadFile(m_Options.sLanguageFile)) {
+  bool bRead = false;
+  TopLevel([&] { bRead = Model.TokenFile.ReadFile(m_Options.sLanguageFile); });
+  if (!bRead) {
     throw UsageError("the language file " + m_Options.sLanguageFile + " isn't beside the program");
   }
   m_Platform.Events.Watch(&m_Window.ctlProgress);
@@ -116,7 +119,17 @@ bool CConversion::ChooseFiles() {
   m_Window.cmdNext_Click();
   if (Page() != ePageFiles) return true;
   m_Outcome.sFault = std::to_string(Files.FocusPage) + "," + std::to_string(Files.FocusFile);
+  KeepFault();
   return false;
+}
+
+// The wizard only moves the cursor; a script's owner wants to read which file it is.
+void CConversion::KeepFault() {
+  auto& Files = m_Window.ctlFiles;
+  if (Files.FocusFile < 1) return;
+  const auto& Slot = Files.ctlSelectFile[static_cast<std::size_t>(Files.FocusFile - 1)];
+  const auto sSlot = Files.frFiles.Caption + ", " + Slot.chkFile.Caption + ": ";
+  m_Outcome.sFaultText = sSlot + (Slot.Filename().empty() ? "no file is given" : "can't open " + Slot.Filename());
 }
 
 void CConversion::TypePreferences() {
@@ -224,6 +237,7 @@ void CConversion::KeepSummary() {
 }  // namespace
 
 TOutcome RunJob(const TJob& Job, const TConversionOptions& Options) {
+  if (const auto sLost = Overwritten(Job); !Options.bCheckOnly && !sLost.empty()) throw UsageError(sLost);
   return CConversion(Job, Options).Run();
 }
 

@@ -116,7 +116,8 @@ TEST_F(FailedImport, ShowsItsReportOnAClick) {
   EXPECT_FALSE(pReport->isModal());
   auto* pText = pReport->findChild<QPlainTextEdit*>("txtReport");
   EXPECT_EQ(pText->toPlainText().toStdString(), Model.GetToken("E_EMPTYFILE"));
-  EXPECT_TRUE(QFontInfo(pText->font()).fixedPitch());
+  const QFontMetrics Metrics(pText->font());
+  EXPECT_EQ(Metrics.horizontalAdvance("iii.1"), Metrics.horizontalAdvance("WMm08"));
 
   QTest::mouseClick(pReport->findChild<QWidget*>("cmdCopy"), Qt::LeftButton);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), pText->toPlainText());

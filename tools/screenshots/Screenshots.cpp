@@ -20,7 +20,7 @@ struct TJobPictures {
   const char* sName;
   int nOption;
   const char* sCase;
-  std::vector<QStringList> aPages;  // files to drop on each page of the Files page
+  std::vector<std::vector<std::string>> aPages;  // files to drop on each page of the Files page
   const char* sVtOption;
 };
 
@@ -38,15 +38,14 @@ void Screenshots::Take(const TJobPictures& Job) {
   const auto Shoot = [&](const QString& sPage) {
     Run.Shoot(QString("%1/%2_%3_%4.png").arg(sFolder, Job.sName).arg(++nPicture).arg(sPage));
   };
-  const auto sCase = QString(VREK_GOLDEN_CASES) + "/" + Job.sCase + "/";
+  QDir::setCurrent(QString(VREK_GOLDEN_CASES) + "/" + Job.sCase);  // so that the pictures show no paths
   Run.Click(QString("optDesign%1").arg(Job.nOption));
   Shoot("job");
   Run.Click("cmdNext");
   for (std::size_t n = 0; n < Job.aPages.size(); ++n) {
     if (n > 0) Run.Click("cmdPage0");
-    QStringList aFiles;
-    for (const auto& sFile : Job.aPages[n]) aFiles << sCase + sFile;
-    WizardRun::Drop(Run.Window.get(), aFiles);
+    Run.Wizard.ctlFiles.DropFiles(Job.aPages[n]);
+    Run.Window->Render();
     if (n == 0 && Job.sVtOption) Run.Click(Job.sVtOption);
     Shoot("files");
   }
@@ -54,6 +53,14 @@ void Screenshots::Take(const TJobPictures& Job) {
   Run.Wizard.ctlPreferences.SetToleranceHz(0.02);
   Run.Window->Render();
   Shoot("preferences");
+  bool bTaken = false;
+  Platform.OnMessages = [&] {
+    Run.Events.ProcessMessages();
+    const auto& Panel = Run.Wizard.ctlProgress;
+    if (bTaken || !Panel.ProgressBar.Visible || Panel.ProgressBar.Value < ctlProgress::dBarMax / 3) return;
+    bTaken = true;
+    Shoot("progress");
+  };
   Run.Click("cmdNext");
   Shoot("importing");
   Run.Click("cmdNext");
@@ -128,12 +135,21 @@ TEST_F(Screenshots, ReportOfAFailedCheck) {
 }
 
 }  // namespace
+
+void UseDarkTheme() {
+  QPalette Dark(QColor(0x35, 0x38, 0x3c), QColor(0x2b, 0x2d, 0x30));
+  Dark.setColor(QPalette::Base, QColor(0x1e, 0x1f, 0x22));
+  Dark.setColor(QPalette::PlaceholderText, QColor(0x9a, 0x9a, 0x9a));
+  QApplication::setPalette(Dark);
+}
+
 }  // namespace vrek::test
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   ::testing::InitGoogleTest(&argc, argv);
   const QApplication Application(argc, argv);
+  if (qEnvironmentVariableIsSet("DARK")) vrek::test::UseDarkTheme();
   if (Application.arguments().size() < 2) qFatal("usage: vrek_screenshots FOLDER");
   vrek::test::sFolder = Application.arguments().at(1);
   QDir().mkpath(vrek::test::sFolder);

@@ -32,7 +32,6 @@ void ExportingView::MakeRange() {
     pBox->setObjectName(QString("txtChainage%1").arg(n));
     pBox->setAlignment(Qt::AlignRight);
     pLabel->setBuddy(pBox);
-    pLabel->setMargin(1);
     pForm->addRow(pLabel, pBox);
     connect(pBox, &QLineEdit::textEdited, this,
             [this, n](const QString& sText) { m_Control.txtChainage[n].Text = Text(sText); });

@@ -20,6 +20,8 @@ Paging::Paging(std::function<void(int)> OnPress, QWidget* pParent)
     m_aButtons[static_cast<std::size_t>(n)] = pButton;
   }
   m_pLabel->setObjectName("lblPage");
+  m_pLabel->setAlignment(Qt::AlignCenter);
+  m_pLabel->setMinimumWidth(m_pLabel->fontMetrics().horizontalAdvance("8 / 8") + 2);
   auto* pLayout = new QHBoxLayout(this);
   pLayout->setContentsMargins(0, 0, 0, 0);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

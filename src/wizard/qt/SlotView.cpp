@@ -39,6 +39,7 @@ void SlotView::LayOut() {
   pLayout->addWidget(m_pEdit, 1, 2);
   pLayout->addWidget(m_pOption, 2, 0, 1, 3);
   pLayout->setColumnStretch(0, 1);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   m_pBrowse->setMaximumWidth(m_pBrowse->fontMetrics().horizontalAdvance("…") * 4);
 }
 

@@ -68,7 +68,12 @@ void SetCaption(QAbstractButton& Widget, const QString& sCaption) {
 }
 
 void SetCaption(QLabel& Widget, const QString& sCaption) {
-  if (Widget.buddy()) return KeepCaption(Widget, sCaption);
+  if (Widget.buddy()) {
+    // The underlined letter is drawn apart from its neighbours, which makes the text a little wider.
+    const auto Metrics = Widget.fontMetrics();
+    Widget.setMinimumWidth(Metrics.horizontalAdvance(sCaption) + Metrics.averageCharWidth());
+    return KeepCaption(Widget, sCaption);
+  }
   Widget.setText(sCaption);
 }
 

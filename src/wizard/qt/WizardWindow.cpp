@@ -117,6 +117,8 @@ void WizardWindow::ShowPage() {
   pPage->Render();
   pPage->setAccessibleName(Text(m_Wizard.lblTitle.Caption));
   if (!bNew) return;
+  // What was hidden before the page had ever been on show still counts in the sizes that its layouts keep.
+  for (auto* pChild : pPage->findChildren<QWidget*>()) pChild->updateGeometry();
   m_pFocusBefore = FirstControl(*pPage);
   if (m_pFocusBefore && !m_bFrozen) m_pFocusBefore->setFocus();
 }
