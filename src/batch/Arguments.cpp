@@ -5,6 +5,7 @@
 
 #include "base/Configuration.h"
 #include "base/ST.h"
+#include "batch/Completion.h"
 #include "batch/ExitStatus.h"
 #include "batch/JobFile.h"
 
@@ -170,6 +171,7 @@ std::optional<TArguments> ReadArguments(int argc, const char* const* argv, std::
   pCheck->require_subcommand(1);
   pCheck->fallthrough();
   const auto Check = AddCommands(*pCheck, CheckOptions, true);
+  AddCompletion(App, Out);
   try {
     App.parse(argc, argv);
     Arguments.bCheckOnly = pCheck->parsed();
