@@ -29,6 +29,11 @@ std::string Told(const TOutcome& Outcome) {
   return sText;
 }
 
+TOutcome RunLaidOut(const batch::TJob& Job, const fs::path& Folder) {
+  std::ofstream(Folder / "QuennelV2.lng") << "#\r\n";
+  return batch::RunJob(Job, {.sLanguageFile = "QuennelV2.lng", .sProgramDirectory = Folder.string()});
+}
+
 class OutputFault : public ProjectTest {
  protected:
   /// Converts to a path where no document can come into being; gives what was told.
@@ -84,11 +89,9 @@ TEST_F(OutputFault, ADrawingThatCanNotBeWrittenIsToldBehindTheDocument) {
   auto Job = fuzz::LayOut(ReadExample("rail"), Folder);
   Job.sOutput = Output();
   Job.sPlot = (Folder / "none" / "plot.svg").string();
-  std::ofstream(Folder / "QuennelV2.lng") << "#\r\n";
   for (const bool bLog : {true, false}) {
     if (!bLog) ::setenv("TMPDIR", (Folder / "none").c_str(), 1);
-    const auto Outcome =
-        batch::RunJob(Job, {.sLanguageFile = "QuennelV2.lng", .sProgramDirectory = Folder.string()});
+    const auto Outcome = RunLaidOut(Job, Folder);
     EXPECT_EQ(Outcome.eStatus, batch::eNotWritten);
     EXPECT_TRUE(Outcome.bExported);
     EXPECT_THAT(Told(Outcome), ::testing::HasSubstr("Path not found"));
@@ -121,8 +124,7 @@ TEST_F(InputFault, AFileWithoutReadPermissionIsAFaultOfItsSlot) {
   auto Job = fuzz::LayOut(ReadExample("rail"), Folder);
   Job.sOutput = Output();
   fs::permissions(Job.aFiles[0].sVertical, fs::perms::none);
-  const auto Outcome =
-      batch::RunJob(Job, {.sLanguageFile = "QuennelV2.lng", .sProgramDirectory = Folder.string()});
+  const auto Outcome = RunLaidOut(Job, Folder);
   EXPECT_EQ(Outcome.sFault, "1,2");
 }
 
@@ -130,9 +132,7 @@ TEST_F(InputFault, AFileBeyondAllMeasureIsRefusedUnread) {
   auto Job = fuzz::LayOut(ReadExample("rail"), Folder);
   Job.sOutput = Output();
   fs::resize_file(Job.aFiles[0].sHorizontal, std::uintmax_t{1} << 40);  // a hole: needs no disk
-  std::ofstream(Folder / "QuennelV2.lng") << "#\r\n";
-  const auto Outcome =
-      batch::RunJob(Job, {.sLanguageFile = "QuennelV2.lng", .sProgramDirectory = Folder.string()});
+  const auto Outcome = RunLaidOut(Job, Folder);
   EXPECT_FALSE(Outcome.bImported);
   EXPECT_THAT(Told(Outcome), ::testing::HasSubstr("Out of memory"));
 }
@@ -141,9 +141,7 @@ TEST_F(InputFault, ADeviceWithoutAnEndIsRefused) {
   auto Job = fuzz::LayOut(ReadExample("rail"), Folder);
   Job.sOutput = Output();
   Job.aFiles[0].sVertical = "/dev/zero";
-  std::ofstream(Folder / "QuennelV2.lng") << "#\r\n";
-  const auto Outcome =
-      batch::RunJob(Job, {.sLanguageFile = "QuennelV2.lng", .sProgramDirectory = Folder.string()});
+  const auto Outcome = RunLaidOut(Job, Folder);
   EXPECT_FALSE(Outcome.bImported);
   EXPECT_THAT(Told(Outcome), ::testing::HasSubstr("Path/File access error"));
 }
