@@ -5,6 +5,7 @@
 
 #include "base/Checked.h"
 #include "geometry/Alg.h"
+#include "geometry/AligmentIndex.h"
 #include "shell/ErrHandler.h"
 
 namespace vrek::CAligmentsDatas {
@@ -13,6 +14,7 @@ namespace {
 
 struct TAligmentData {
   THzElements Hz;
+  bool bHzInOrder = true;  // never falls back in chainage: can be bisected
   TVtElements Vt;
   TCrData Cr;
   std::shared_ptr<clsSuperelevation> Sup;
@@ -80,12 +82,19 @@ THzElement GetAligmentHzWithChainage(int nAligment, double dChainage) {
   return Guard("GetAligmentHzWithChainage", THzElement{}, [&] {
     const TAligmentData& Aligment = Record(nAligment);
     if ((Aligment.eType & AligmentType::nHz) == 0) Raise(Error::nAssertion, sNoHz);
-    return Checked::At(Aligment.Hz, Alg::FindHzElement(dChainage, Aligment.Hz));
+    const int nElement = Aligment.bHzInOrder ? Alg::FindHzElementInOrder(dChainage, Aligment.Hz)
+                                             : Alg::FindHzElement(dChainage, Aligment.Hz);
+    return Checked::At(Aligment.Hz, nElement);
   });
 }
 
 void SetAligmentHz(int nAligment, THzElements aHz) {
+  const bool bInOrder = Alg::IsInOrder(aHz);
   SetPart(nAligment, AligmentType::nHz, &TAligmentData::Hz, "SetAligmentHz", std::move(aHz));
+  auto& aAligments = Store().aAligments;
+  if (nAligment >= 0 && static_cast<std::size_t>(nAligment) < aAligments.size()) {
+    aAligments[static_cast<std::size_t>(nAligment)].bHzInOrder = bInOrder;
+  }
 }
 
 const TVtElements& GetAligmentVt(int nAligment) {

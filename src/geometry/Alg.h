@@ -19,6 +19,8 @@ THzElement InRadians(const THzElement& Element);
 /// Index of the last element that starts at or before a chainage, but at least 1; of several that start
 /// there, the first. With no element above index 0: the upper bound.
 int FindHzElement(double dChainage, const THzElements& aHz);
+/// The same for an array that never falls back in chainage, by bisection.
+int FindHzElementInOrder(double dChainage, const THzElements& aHz);
 int FindVtElement(double dChainage, const TVtElements& aVt);
 
 /// Points along one element at a distance from its start. The element's azimuth is in radians.

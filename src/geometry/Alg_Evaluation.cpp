@@ -158,7 +158,7 @@ THzPoint GetPointOnCubicSpiral(double d0, bool bFromStart, const THzElement& Ele
   const double x = bFromStart ? Element.dLength : d0 - Element.dLength;
   // 2. offset of a cubic parabola, with the correction of its curvature
   const double R = Element.dRadius;
-  const double y = Checked::Divide(x * x * x, 6 * R * d0) * (1 + 3 * d0 * d0 / (64 * R * R));
+  const double y = Checked::Divide(x * x * x, 6 * R * d0) * (1 + 3 * (d0 * d0) / (64 * (R * R)));
   // 3.
   return {Origin.dX + std::sin(a) * x + std::cos(a) * y, Origin.dY + std::cos(a) * x - std::sin(a) * y, 0};
 }

@@ -22,6 +22,15 @@ int FindHzElement(double dChainage, const THzElements& aHz) {
   return FindElement(dChainage, aHz);
 }
 
+int FindHzElementInOrder(double dChainage, const THzElements& aHz) {
+  if (UpperBound(aHz) < 1) return UpperBound(aHz);
+  const auto Starts = [](const THzElement& Element, double d) { return Element.dChainage < d; };
+  const auto Lower = std::lower_bound(aHz.begin() + 1, aHz.end(), dChainage, Starts);
+  const int i = static_cast<int>(Lower - aHz.begin());
+  if (Lower == aHz.end()) return i - 1;
+  return Lower->dChainage == dChainage ? i : std::max(i - 1, 1);
+}
+
 int FindVtElement(double dChainage, const TVtElements& aVt) {
   return FindElement(dChainage, aVt);
 }

@@ -36,6 +36,18 @@ const TDivisors& Divisors() {
   return All;
 }
 
+// Whether every term behind number n is at most half the one before it, in both series.
+bool Shrinks(std::size_t n, double dTau) {
+  const auto i = static_cast<double>(n + 1);
+  return 2 * dTau * dTau <= (2 * i - 1) * (2 * i);
+}
+
+// Whether a term leaves a sum as it is, added or taken away. As rounding keeps the order of numbers, so does
+// then every smaller term of either sign.
+bool IsLost(double dTerm, double dSum) {
+  return dSum + dTerm == dSum && dSum - dTerm == dSum;
+}
+
 // The deflection of a clothoid of parameter A between a straight and a radius; 0 for no radius.
 double Deflection(double dParameter, double dMagnitude) {
   if (dMagnitude == 0) return 0;
@@ -107,11 +119,13 @@ void ClothoidUnitPoint(double dTau, double& dUnitX, double& dUnitY) {
   double dPower = 1, x = 0, y = 0;  // the power is τ^(2i-2), then τ^(2i-1)
   for (std::size_t n = 0; n < nTerms; ++n) {
     const double dSign = n % 2 == 0 ? 1 : -1;
-    x += dSign * dPower / By.aX[n];
+    const double dTermX = dSign * dPower / By.aX[n];
     dPower *= dTau;
-    y += dSign * dPower / By.aY[n];
+    const double dTermY = dSign * dPower / By.aY[n];
     dPower *= dTau;
-    if (dPower == 0) break;  // all further terms are 0
+    x += dTermX;
+    y += dTermY;
+    if (Shrinks(n, dTau) && IsLost(dTermX, x) && IsLost(dTermY, y)) break;
   }
   const double dFactor = Checked::Sqrt(2 * dTau);
   dUnitX = x * dFactor;

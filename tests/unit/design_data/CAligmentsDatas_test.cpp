@@ -59,6 +59,14 @@ TEST_F(DataStore, FindsAnElementByItsChainage) {
   EXPECT_EQ(Store::GetAligmentHzWithChainage(1, 0).dChainage, 100);
   EXPECT_EQ(Store::GetAligmentHzWithChainage(1, 200).dChainage, 200);
   EXPECT_EQ(Store::GetAligmentHzWithChainage(1, 999).dChainage, 200);
+  // Out of order the walk stops at the first element behind the chainage.
+  aHz.resize(5);
+  aHz[2].dChainage = 400;
+  aHz[3].dChainage = 200;
+  aHz[4].dChainage = 300;
+  Store::SetAligmentHz(1, aHz);
+  EXPECT_EQ(Store::GetAligmentHzWithChainage(1, 350).dChainage, 100);
+  EXPECT_EQ(Store::GetAligmentHzWithChainage(1, 500).dChainage, 300);
 }
 
 TEST_F(DataStore, FindsAStringlineByItsExactName) {

@@ -143,6 +143,52 @@ TEST_F(Evaluation, OffEveryElementTheNearestVertexStands) {
   EXPECT_EQ(dOffset, 5);
 }
 
+// Random alignments of curves with their transitions, long arcs among them.
+TEST_F(Evaluation, PointsBesideRandomAlignmentsComeBack) {
+  std::mt19937 Random(2024);
+  const auto Between = [&](double dLow, double dHigh) {
+    return std::uniform_real_distribution<double>(dLow, dHigh)(Random);
+  };
+  int nCompared = 0;
+  for (int nRound = 0; nRound < 60; ++nRound) {
+    std::vector<TPiece> aPieces;
+    for (int n = 0; n < 4; ++n) {
+      const double k = (Random() % 2 == 0 ? 1 : -1) / Between(250, 3000), k2 = k * Between(1.3, 2);
+      const double dIn = Between(40, 120), dOver = Between(40, 120), dOut = Between(40, 120);
+      const double dArc = Between(60, 0.6 / std::fabs(k2));
+      const std::vector<TPiece> aCurve = {{Between(60, 200), 0, 0}, {dIn, 0, k},    {dArc, k, k},
+                                          {dOver, k, k2},           {dArc, k2, k2}, {dOut, k2, 0}};
+      aPieces.insert(aPieces.end(), aCurve.begin(), aCurve.end());
+    }
+    const auto aHz = LayOut(UtmStart, 1000, aPieces);
+    const Alg::CHzIndex Index(aHz);
+    for (std::size_t i = 0; i < aPieces.size(); ++i) {
+      const auto& Element = aHz[i + 1];
+      for (int n = 0; n < 3; ++n) {
+        const double s = Between(0.01, aPieces[i].dLength - 0.01), dOffset = Between(-10, 10);
+        const auto On =
+            Integrate({Element.dX, Element.dY, Element.dAzimuth * GM::dGonToRadians}, aPieces[i], s);
+        THzPoint Point;
+        ASSERT_TRUE(Alg::GetCoordFromHzAligment(Index, Element.dChainage + s, Point));
+        EXPECT_NEAR(Point.dX, On.dX, 5e-6) << nRound << " piece " << i << " at " << s;
+        EXPECT_NEAR(Point.dY, On.dY, 5e-6) << nRound << " piece " << i << " at " << s;
+        const double dRight = On.dX + dOffset * std::cos(On.dAzimuth);
+        const double dAhead = On.dY - dOffset * std::sin(On.dAzimuth);
+        // Only the elements beside the nearest vertex are asked.
+        const int k = Index.NearestVertex({dRight, dAhead, 0}), nPiece = static_cast<int>(i) + 1;
+        if (k != nPiece && k != nPiece + 1) continue;
+        ++nCompared;
+        double dChainage = 0, dFound = 0;
+        EXPECT_TRUE(Alg::ProjectPointToAligment(dChainage, dFound, {dRight, dAhead, 0}, Index));
+        EXPECT_NEAR(dChainage, Element.dChainage + s, 0.00101) << nRound << " piece " << i << " at " << s;
+        EXPECT_NEAR(dFound, dOffset, 0.00101) << nRound << " piece " << i << " at " << s;
+      }
+    }
+  }
+  EXPECT_GT(nCompared, 4000);
+  EXPECT_TRUE(Platform.aBoxes.empty());
+}
+
 // The walks that the index stands for, on arrays in order, with equal values, and out of order.
 TEST(AligmentIndex, AnswersAsTheWalksDo) {
   std::mt19937 Random(7);
@@ -169,6 +215,15 @@ TEST(AligmentIndex, AnswersAsTheWalksDo) {
       EXPECT_EQ(Index.NearestVertex(Point), Alg::FindNearestVertex(Point, aHz, 1, UpperBound(aHz)));
       const double d = std::round(Any(Random)) / 2;
       EXPECT_EQ(Heights.Height(d), GM::GetHeightAtChainage(aVt, d)) << nRound << " " << d;
+      if (Index.InOrder()) {
+        EXPECT_EQ(Alg::FindHzElementInOrder(d, aHz), Alg::FindHzElement(d, aHz)) << d;
+      }
+      if (UpperBound(aHz) < 1 || d < aHz[1].dChainage) continue;
+      THzPoint Walked, Found;
+      EXPECT_TRUE(Alg::GetCoordFromHzAligment(aHz, d, Walked));
+      EXPECT_TRUE(Alg::GetCoordFromHzAligment(Index, d, Found));
+      EXPECT_EQ(Found.dX, Walked.dX) << nRound << " " << d;
+      EXPECT_EQ(Found.dY, Walked.dY) << nRound << " " << d;
     }
   }
 }

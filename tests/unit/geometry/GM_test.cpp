@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <random>
 
 #include "base/Failure.h"
 
@@ -92,6 +93,34 @@ TEST(Clothoids, UnitPointIsTheSumOfItsSeries) {
   GM::ClothoidUnitPoint(0.125, x, y);
   EXPECT_NEAR(100 * x, 49.921931, 5e-7);
   EXPECT_NEAR(100 * y, 2.081009, 5e-7);
+}
+
+// All fifty terms, with the powers built as the converter builds them.
+THzPoint SumOfAllTerms(double dTau) {
+  double x = 0, y = 0, dPower = 1, dFactorial = 1;
+  for (int i = 1; i <= 50; ++i) {
+    const double dSign = i % 2 == 1 ? 1 : -1;
+    x += dSign * dPower / ((4 * i - 3) * dFactorial);
+    dPower *= dTau;
+    dFactorial *= 2 * i - 1;
+    y += dSign * dPower / ((4 * i - 1) * dFactorial);
+    dPower *= dTau;
+    dFactorial *= 2 * i;
+  }
+  return {x * std::sqrt(2 * dTau), y * std::sqrt(2 * dTau), 0};
+}
+
+TEST(Clothoids, TheEarlyEndOfTheSeriesChangesNoBit) {
+  std::mt19937_64 Random(11);
+  std::uniform_real_distribution<double> Exponent(-40, 2);
+  for (int n = 0; n < 20000; ++n) {
+    const double dTau = std::pow(10, n % 2 == 0 ? Exponent(Random) : Exponent(Random) / 20);
+    double x = 0, y = 0;
+    GM::ClothoidUnitPoint(dTau, x, y);
+    const auto All = SumOfAllTerms(dTau);
+    ASSERT_EQ(x, All.dX) << dTau;
+    ASSERT_EQ(y, All.dY) << dTau;
+  }
 }
 
 TEST(Clothoids, EndRadiusFromTheElementAlone) {
