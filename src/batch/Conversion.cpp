@@ -129,7 +129,8 @@ void CConversion::KeepFault() {
   if (Files.FocusFile < 1) return;
   const auto& Slot = Files.ctlSelectFile[static_cast<std::size_t>(Files.FocusFile - 1)];
   const auto sSlot = Files.frFiles.Caption + ", " + Slot.chkFile.Caption + ": ";
-  m_Outcome.sFaultText = sSlot + (Slot.Filename().empty() ? "no file is given" : "can't open " + Slot.Filename());
+  m_Outcome.sFaultText =
+      sSlot + (Slot.Filename().empty() ? "no file is given" : "can't open " + Slot.Filename());
 }
 
 void CConversion::TypePreferences() {
