@@ -5,6 +5,7 @@
 
 #include "base/Configuration.h"
 #include "base/ST.h"
+#include "batch/Completion.h"
 #include "batch/ExitStatus.h"
 #include "batch/JobFile.h"
 
@@ -15,6 +16,7 @@ namespace {
 struct TConvertOptions {
   TJob Job;
   std::vector<std::string> aJobFiles;
+  int nProcesses = 0;
   bool bFromCentre = false, bLeftFromRight = false, bRightFromLeft = false;
 };
 
@@ -123,6 +125,11 @@ TCommands AddCommands(CLI::App& App, TConvertOptions& Options, bool bCheckOnly) 
   }
   Commands.pRun = App.add_subcommand("run", bCheckOnly ? "check what job files name" : "run job files");
   Commands.pRun->add_option("job", Options.aJobFiles, "job files (TOML)")->required()->type_name("JOB.toml");
+  Commands.pRun
+      ->add_option("-j,--jobs", Options.nProcesses,
+                   "run so many job files at a time, each in a process of its own")
+      ->type_name("N")
+      ->check(CLI::Range(1, 256));
   return Commands;
 }
 
@@ -133,6 +140,11 @@ void TakeJobs(const TCommands& Commands, const TConvertOptions& Options, TArgume
     Arguments.aJobs.back().nJob = static_cast<int>(n);
   }
   if (!Commands.pRun->parsed()) return;
+  Arguments.nProcesses = Options.nProcesses;
+  if (Options.nProcesses > 0) {
+    Arguments.aJobFiles = Options.aJobFiles;
+    return;
+  }
   for (const auto& sFile : Options.aJobFiles) {
     Arguments.aJobs.push_back(ReadJobFile(sFile));
     if (!Arguments.bCheckOnly && Arguments.aJobs.back().sOutput.empty()) {
@@ -159,6 +171,7 @@ std::optional<TArguments> ReadArguments(int argc, const char* const* argv, std::
   pCheck->require_subcommand(1);
   pCheck->fallthrough();
   const auto Check = AddCommands(*pCheck, CheckOptions, true);
+  AddCompletion(App, Out);
   try {
     App.parse(argc, argv);
     Arguments.bCheckOnly = pCheck->parsed();
@@ -166,6 +179,9 @@ std::optional<TArguments> ReadArguments(int argc, const char* const* argv, std::
              Arguments);
     return Arguments;
   } catch (const CLI::ParseError& Error) {
+    if (App.get_subcommands().empty() && argc > 1 && argv[1][0] != '-') {
+      Err << "vrek-batch: unknown command \"" << argv[1] << "\"\n";
+    }
     nStatus = App.exit(Error, Out, Err) == 0 ? eConverted : eUsage;
   } catch (const UsageError& Error) {
     Err << "vrek-batch: " << Error.what() << "\n";

@@ -22,6 +22,8 @@ struct TArguments {
   bool bQuiet = false;
   bool bManyJobs = false;  ///< jobs came from job files: more than one may be there
   std::vector<TJob> aJobs;
+  int nProcesses = 0;  ///< above 0: each job file is to be run in a process of its own, so many at a time
+  std::vector<std::string> aJobFiles;  ///< these; aJobs is empty then
 };
 
 /// Reads the command line. No value: there is nothing to run, and nStatus is the exit status (help and

@@ -9,7 +9,9 @@
 #include "batch/Arguments.h"
 #include "batch/Conversion.h"
 #include "batch/JobFile.h"
+#include "batch/ManyJobs.h"
 #include "batch/OutcomeJson.h"
+#include "shell/ErrHandler.h"
 
 namespace vrek::batch {
 namespace {
@@ -31,12 +33,44 @@ void Tell(const TOutcome& Outcome, bool bCheckOnly, std::ostream& Err) {
     std::erase(sText, '\r');
     if (Message.bBox) Err << sText << "\n";
   }
-  if (!Outcome.bValid) Err << "a file is missing or can't be opened: page,slot " << Outcome.sFault << "\n";
+  if (!Outcome.bValid) Err << "refused: " << Outcome.sFaultText << "\n";
   TellFiles(Outcome, Err);
   if (Outcome.bExported) Err << "written: " << Outcome.sOutput << "\n";
   if (bCheckOnly && Outcome.eStatus == eConverted) Err << "all files are good\n";
   if (Outcome.eStatus == eNotWritten && !Outcome.bExported)
     Err << "could not be written whole: " << Outcome.sOutput << "\n";
+}
+
+// Guards what a conversion can't foresee, such as a failure whose report fails too.
+int RunOne(const TJob& Job, const TConversionOptions& Options, bool bQuiet, std::vector<TOutcome>& aOutcomes,
+           std::ostream& Err) {
+  try {
+    aOutcomes.push_back(RunJob(Job, Options));
+    if (!bQuiet) Tell(aOutcomes.back(), Options.bCheckOnly, Err);
+    return aOutcomes.back().eStatus;
+  } catch (const UsageError& Error) {
+    Err << "vrek-batch: " << Error.what() << "\n";
+    return eUsage;
+  } catch (...) {
+    Err << "vrek-batch: " << CurrentFailure().sDescription << "\n";
+    return eNotWritten;
+  }
+}
+
+int RunInProcesses(const TArguments& Arguments, std::ostream& Out, std::ostream& Err) {
+  TManyJobs Jobs;
+  Jobs.aJobFiles = Arguments.aJobFiles;
+  Jobs.nAtOnce = Arguments.nProcesses;
+  Jobs.bCheckOnly = Arguments.bCheckOnly;
+  Jobs.bJson = Arguments.bJson;
+  Jobs.bQuiet = Arguments.bQuiet;
+  Jobs.bProgress = !Arguments.bQuiet && isatty(STDERR_FILENO) != 0;
+  try {
+    return RunManyJobs(Jobs, Out, Err);
+  } catch (const UsageError& Error) {
+    Err << "vrek-batch: " << Error.what() << "\n";
+    return eUsage;
+  }
 }
 
 }  // namespace
@@ -46,6 +80,7 @@ int RunBatch(int argc, const char* const* argv, std::ostream& Out, std::ostream&
   int nStatus = eConverted;
   const auto Arguments = ReadArguments(argc, argv, Out, Err, nStatus);
   if (!Arguments) return nStatus;
+  if (Arguments->nProcesses > 0) return RunInProcesses(*Arguments, Out, Err);
   TConversionOptions Options;
   Options.bCheckOnly = Arguments->bCheckOnly;
   Options.bProgress = !Arguments->bQuiet && isatty(STDERR_FILENO) != 0;
@@ -53,14 +88,7 @@ int RunBatch(int argc, const char* const* argv, std::ostream& Out, std::ostream&
   Options.sProgramDirectory = sProgramDirectory;
   std::vector<TOutcome> aOutcomes;
   for (const auto& Job : Arguments->aJobs) {
-    try {
-      aOutcomes.push_back(RunJob(Job, Options));
-      nStatus = std::max<int>(nStatus, aOutcomes.back().eStatus);
-      if (!Arguments->bQuiet) Tell(aOutcomes.back(), Options.bCheckOnly, Err);
-    } catch (const UsageError& Error) {
-      Err << "vrek-batch: " << Error.what() << "\n";
-      nStatus = std::max<int>(nStatus, eUsage);
-    }
+    nStatus = std::max(nStatus, RunOne(Job, Options, Arguments->bQuiet, aOutcomes, Err));
   }
   if (Arguments->bJson) Out << OutcomesAsJson(aOutcomes, Arguments->bManyJobs) << std::flush;
   return nStatus;

@@ -29,6 +29,19 @@ class CAppScope {
   clsAppModel* m_pBefore;
 };
 
+// Whether a last step came through. A failure is told, also where the log can't be opened.
+template <class TBody>
+bool Done(const char* sSource, TBody&& Body) {
+  bool bDone = false;
+  TopLevel([&] {
+    bDone = Guard(sSource, false, [&] {
+      Body();
+      return true;
+    });
+  });
+  return bDone;
+}
+
 class CConversion {
  public:
   CConversion(const TJob& Job, const TConversionOptions& Options)
@@ -44,6 +57,7 @@ class CConversion {
   void Start();
   void ChooseJob();
   bool ChooseFiles();
+  void KeepFault();
   void TypeSlots(const TAligmentFiles& Files);
   void TypePreferences();
   void TypeExport();
@@ -76,7 +90,9 @@ void CConversion::Start() {
   Model.ConversionInfo.sJobName = m_Job.sName;
   Model.ConversionInfo.sCreator = m_Job.sCreator;
   Model.ConversionInfo.bExportOnce = true;
-  if (!Model.TokenFile.ReadFile(m_Options.sLanguageFile)) {
+  bool bRead = false;
+  TopLevel([&] { bRead = Model.TokenFile.ReadFile(m_Options.sLanguageFile); });
+  if (!bRead) {
     throw UsageError("the language file " + m_Options.sLanguageFile + " isn't beside the program");
   }
   m_Platform.Events.Watch(&m_Window.ctlProgress);
@@ -116,7 +132,18 @@ bool CConversion::ChooseFiles() {
   m_Window.cmdNext_Click();
   if (Page() != ePageFiles) return true;
   m_Outcome.sFault = std::to_string(Files.FocusPage) + "," + std::to_string(Files.FocusFile);
+  KeepFault();
   return false;
+}
+
+// The wizard only moves the cursor; a script's owner wants to read which file it is.
+void CConversion::KeepFault() {
+  auto& Files = m_Window.ctlFiles;
+  if (Files.FocusFile < 1) return;
+  const auto& Slot = Files.ctlSelectFile[static_cast<std::size_t>(Files.FocusFile - 1)];
+  const auto sSlot = Files.frFiles.Caption + ", " + Slot.chkFile.Caption + ": ";
+  m_Outcome.sFaultText =
+      sSlot + (Slot.Filename().empty() ? "no file is given" : "can't open " + Slot.Filename());
 }
 
 void CConversion::TypePreferences() {
@@ -152,10 +179,7 @@ void CConversion::Export() {
   }
   m_Outcome.eStatus = eNotWritten;
   if (!CLandXML::WroteWhole()) return;
-  m_Outcome.bExported = Guard("Commit", false, [&] {
-    m_Platform.Output.Commit();
-    return true;
-  });
+  m_Outcome.bExported = Done("Commit", [&] { m_Platform.Output.Commit(); });
   if (!m_Outcome.bExported) return;
   m_Outcome.eStatus = eConverted;
   KeepSummary();
@@ -164,12 +188,11 @@ void CConversion::Export() {
 
 // Comes into its place whole or not at all, like the document.
 void CConversion::Plot() {
-  const bool bWritten = Guard("Plot", false, [&] {
+  const bool bWritten = Done("Plot", [&] {
     const auto File = m_Platform.Output.Create(m_Job.sPlot);
     File->Write(SvgPlot::PlotAsSvg(PreviewOf(m_Window)));
     File->Close();
     m_Platform.Output.Commit();
-    return true;
   });
   if (!bWritten) m_Outcome.eStatus = eNotWritten;
 }
@@ -224,6 +247,7 @@ void CConversion::KeepSummary() {
 }  // namespace
 
 TOutcome RunJob(const TJob& Job, const TConversionOptions& Options) {
+  if (const auto sLost = Overwritten(Job); !Options.bCheckOnly && !sLost.empty()) throw UsageError(sLost);
   return CConversion(Job, Options).Run();
 }
 

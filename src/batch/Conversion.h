@@ -42,6 +42,7 @@ struct TLayerResult {
 struct TOutcome {
   std::string sJob, sOutput;
   bool bValid = false;     ///< the Files page could be left
+  std::string sFaultText;  ///< the same in words: page, slot and path
   std::string sFault;      ///< "page,slot" where it couldn't
   bool bImported = false;  ///< every file was read and passed its checks
   bool bExported = false;  ///< the document is in its place
@@ -59,8 +60,8 @@ struct TConversionOptions {
   std::string sProgramDirectory;  ///< empty: that of the executable
 };
 
-/// Runs a job. Wrong usage (a job that isn't on offer, a tolerance that is no number, no language file):
-/// UsageError.
+/// Runs a job. Wrong usage (a job that isn't on offer, a tolerance that is no number, no language file, an
+/// output that is an input too): UsageError.
 TOutcome RunJob(const TJob& Job, const TConversionOptions& Options);
 
 }  // namespace vrek::batch

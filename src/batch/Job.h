@@ -30,6 +30,10 @@ struct TJob {
   std::array<TAligmentFiles, 3> aFiles;             ///< pages: the alignment; or centre, left, right
 };
 
+/// What would be lost when the job runs: an input that is the output or the drawing as well, or both in one
+/// file, in words; empty when nothing would.
+std::string Overwritten(const TJob& Job);
+
 inline constexpr std::array<const char*, 4> aJobNames = {"road", "tunnel", "rail", "double"};
 
 }  // namespace vrek::batch

@@ -38,6 +38,11 @@ ordered_json AsJson(const TOutcome& Outcome) {
   return Json;
 }
 
+std::string AsText(const ordered_json& Json) {
+  // A path may hold bytes that are no UTF-8: these show as replacement characters.
+  return Json.dump(1, ' ', false, ordered_json::error_handler_t::replace) + "\n";
+}
+
 }  // namespace
 
 std::string OutcomesAsJson(const std::vector<TOutcome>& aOutcomes, bool bArray) {
@@ -48,8 +53,24 @@ std::string OutcomesAsJson(const std::vector<TOutcome>& aOutcomes, bool bArray) 
   } else if (!aOutcomes.empty()) {
     Json = AsJson(aOutcomes.front());
   }
-  // A path may hold bytes that are no UTF-8: these show as replacement characters.
-  return Json.dump(1, ' ', false, ordered_json::error_handler_t::replace) + "\n";
+  return AsText(Json);
+}
+
+std::string JoinOutcomes(const std::vector<std::string>& aOutcomes) {
+  auto Json = ordered_json::array();
+  for (const auto& sOutcome : aOutcomes) {
+    auto Outcome = ordered_json::parse(sOutcome, nullptr, false);
+    if (!Outcome.is_discarded()) Json.push_back(std::move(Outcome));
+  }
+  return AsText(Json);
+}
+
+std::string OutcomeOfBrokenRun(const std::string& sJobFile, const std::string& sWords,
+                               const std::string& sSaid) {
+  TOutcome Outcome;
+  Outcome.aMessages.push_back({false, "", sJobFile + ": " + sWords});
+  if (!sSaid.empty()) Outcome.aMessages.push_back({false, "", sSaid});
+  return AsText(AsJson(Outcome));
 }
 
 }  // namespace vrek::batch

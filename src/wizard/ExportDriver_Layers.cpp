@@ -1,5 +1,6 @@
 // The "QN Stringline Layers" behind the alignments: which stringlines belong together, which of them is the
 // centre line, and which are no lines of the surface.
+#include "base/Checked.h"
 #include "design_data/CAligmentsDatas.h"
 #include "landxml/CLandXML.h"
 #include "shell/AppModel.h"
@@ -39,12 +40,12 @@ void ExportDriver::ExportLayer(const std::vector<std::string>& aNames, std::stri
   }
   if (!CLandXML::TagFeature(false, "QN Stringline Layer", sNames)) return;
   CLandXML::TagProperty("name", sLayerName);
-  CLandXML::TagProperty("centreline", aNames.at(static_cast<std::size_t>(nCentre)));
+  CLandXML::TagProperty("centreline", Checked::At(aNames, nCentre));
   CLandXML::TagProperty("sorted", bSorted ? "YES" : "NO");
   if (!aExcluded.empty() && aExcluded.front() >= 0) {
     for (const int nName : aExcluded) {
       if (nName < 0) continue;
-      const auto& sName = aNames.at(static_cast<std::size_t>(nName));
+      const auto& sName = Checked::At(aNames, nName);
       if (!sName.empty()) CLandXML::TagProperty("excluded", sName);
     }
   }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Checked.h"
 #include "shell/ErrHandler.h"
 
 namespace vrek {
@@ -41,7 +42,7 @@ bool ctlSelectStrLns::IsOk(int nPage, int nFile) const {
 }
 
 const TSelectItem& ctlSelectStrLns::Item(int nPage, int nFile) const {
-  return m_aPages[static_cast<std::size_t>(nPage - 1)].Items[static_cast<std::size_t>(nFile - 1)];
+  return Checked::At(m_aPages[static_cast<std::size_t>(nPage - 1)].Items, nFile - 1);
 }
 
 void ctlSelectStrLns::ConfigCtrl(int nPage, int nFile, std::string_view sTittle, bool bWithEmptyItem) {

@@ -42,10 +42,11 @@ void frmWizard::Load(const TMakeLogic& MakeLogic) {
   ShowFirstPage();
 }
 
+// Settings that can't be saved, even where the log can't tell of it either, don't hold up the end.
 void frmWizard::Unload() {
-  if (m_oWizard) m_oWizard->Release();
+  if (m_oWizard) TopLevel([&] { m_oWizard->Release(); });
   m_oWizard.reset();
-  Guard("SaveFilenames", [&] { ctlFiles.SaveFilenames(); });
+  TopLevel([&] { Guard("SaveFilenames", [&] { ctlFiles.SaveFilenames(); }); });
 }
 
 void frmWizard::UpdateText() {
@@ -122,7 +123,7 @@ void frmWizard::UpdateButtons() {
 }
 
 void frmWizard::cmdNext_Click() {
-  if (m_bBusy) return;
+  if (m_bBusy || !m_oWizard) return;
   if (OnLastPage()) {
     Unload();
     EndProcess(0);
@@ -136,7 +137,8 @@ void frmWizard::NextPage() {
   if (!Leave(CurrentPage())) return;
   ++m_nCurrent;
   if (!Enter(CurrentPage()) && !OnLastPage()) {
-    // The page declines: the one behind it is shown, whatever it says.
+    // The page declines: the one behind it is shown, whatever it says. Back may still lead to this one.
+    KeepTitles();
     ++m_nCurrent;
     Enter(CurrentPage());
   }
@@ -145,7 +147,7 @@ void frmWizard::NextPage() {
 }
 
 void frmWizard::cmdBack_Click() {
-  if (!m_bBusy && m_nCurrent != 0 && cmdBack.Enabled) BackPage();
+  if (!m_bBusy && m_oWizard && m_nCurrent != 0 && cmdBack.Enabled) BackPage();
 }
 
 void frmWizard::BackPage() {
@@ -157,7 +159,7 @@ void frmWizard::BackPage() {
 }
 
 void frmWizard::cmdCancel_Click() {
-  if (!m_bBusy) EndProcess(1);
+  if (!m_bBusy && cmdCancel.Enabled) EndProcess(1);
 }
 
 bool frmWizard::QueryClose() {
