@@ -179,6 +179,9 @@ std::optional<TArguments> ReadArguments(int argc, const char* const* argv, std::
              Arguments);
     return Arguments;
   } catch (const CLI::ParseError& Error) {
+    if (App.get_subcommands().empty() && argc > 1 && argv[1][0] != '-') {
+      Err << "vrek-batch: unknown command \"" << argv[1] << "\"\n";
+    }
     nStatus = App.exit(Error, Out, Err) == 0 ? eConverted : eUsage;
   } catch (const UsageError& Error) {
     Err << "vrek-batch: " << Error.what() << "\n";

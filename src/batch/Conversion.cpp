@@ -29,6 +29,19 @@ class CAppScope {
   clsAppModel* m_pBefore;
 };
 
+// Whether a last step came through. A failure is told, also where the log can't be opened.
+template <class TBody>
+bool Done(const char* sSource, TBody&& Body) {
+  bool bDone = false;
+  TopLevel([&] {
+    bDone = Guard(sSource, false, [&] {
+      Body();
+      return true;
+    });
+  });
+  return bDone;
+}
+
 class CConversion {
  public:
   CConversion(const TJob& Job, const TConversionOptions& Options)
@@ -129,7 +142,8 @@ void CConversion::KeepFault() {
   if (Files.FocusFile < 1) return;
   const auto& Slot = Files.ctlSelectFile[static_cast<std::size_t>(Files.FocusFile - 1)];
   const auto sSlot = Files.frFiles.Caption + ", " + Slot.chkFile.Caption + ": ";
-  m_Outcome.sFaultText = sSlot + (Slot.Filename().empty() ? "no file is given" : "can't open " + Slot.Filename());
+  m_Outcome.sFaultText =
+      sSlot + (Slot.Filename().empty() ? "no file is given" : "can't open " + Slot.Filename());
 }
 
 void CConversion::TypePreferences() {
@@ -165,10 +179,7 @@ void CConversion::Export() {
   }
   m_Outcome.eStatus = eNotWritten;
   if (!CLandXML::WroteWhole()) return;
-  m_Outcome.bExported = Guard("Commit", false, [&] {
-    m_Platform.Output.Commit();
-    return true;
-  });
+  m_Outcome.bExported = Done("Commit", [&] { m_Platform.Output.Commit(); });
   if (!m_Outcome.bExported) return;
   m_Outcome.eStatus = eConverted;
   KeepSummary();
@@ -177,12 +188,11 @@ void CConversion::Export() {
 
 // Comes into its place whole or not at all, like the document.
 void CConversion::Plot() {
-  const bool bWritten = Guard("Plot", false, [&] {
+  const bool bWritten = Done("Plot", [&] {
     const auto File = m_Platform.Output.Create(m_Job.sPlot);
     File->Write(SvgPlot::PlotAsSvg(PreviewOf(m_Window)));
     File->Close();
     m_Platform.Output.Commit();
-    return true;
   });
   if (!bWritten) m_Outcome.eStatus = eNotWritten;
 }
