@@ -11,6 +11,7 @@
 #include "shell/CommandLine.h"
 #include "shell/ErrHandler.h"
 #include "wizard/PreviewOf.h"
+#include "wizard/WarningsOf.h"
 #include "wizard/frmWizard.h"
 
 namespace vrek::batch {
@@ -52,11 +53,12 @@ class CConversion {
   void Plot();
   void AddBox(std::string_view sText, EIcon eIcon) {
     m_Outcome.aMessages.push_back(
-        {true, eIcon == EIcon::eCritical ? "critical" : "warning", std::string(sText)});
+        {true, eIcon == EIcon::eCritical ? "critical" : "warning", std::string(sText), false});
   }
   void KeepFiles();
   void KeepSummary();
   void KeepLayers();
+  void KeepWarnings();
   int Page() const { return m_Window.CurrentPage(); }
 
   const TJob& m_Job;
@@ -71,7 +73,7 @@ void CConversion::Start() {
   auto& Model = m_App.Model();
   InitFormats(m_Job.nFormats.value_or(Configuration::nFormatsSupport));
   Model.OnLogged = [this](std::string_view sText) {
-    m_Outcome.aMessages.push_back({false, "", std::string(sText)});
+    m_Outcome.aMessages.push_back({false, "", std::string(sText), false});
   };
   Model.XmlFileToExport = m_Job.sOutput;
   Model.ConversionInfo.sJobName = m_Job.sName;
@@ -129,7 +131,8 @@ void CConversion::KeepFault() {
   if (Files.FocusFile < 1) return;
   const auto& Slot = Files.ctlSelectFile[static_cast<std::size_t>(Files.FocusFile - 1)];
   const auto sSlot = Files.frFiles.Caption + ", " + Slot.chkFile.Caption + ": ";
-  m_Outcome.sFaultText = sSlot + (Slot.Filename().empty() ? "no file is given" : "can't open " + Slot.Filename());
+  m_Outcome.sFaultText =
+      sSlot + (Slot.Filename().empty() ? "no file is given" : "can't open " + Slot.Filename());
 }
 
 void CConversion::TypePreferences() {
@@ -158,6 +161,7 @@ void CConversion::TypeExport() {
 void CConversion::Export() {
   TypeExport();
   KeepLayers();
+  KeepWarnings();
   m_Window.cmdNext_Click();
   if (Page() != ePageResult) {
     if (!CLandXML::WroteWhole()) m_Outcome.eStatus = eNotWritten;
@@ -199,6 +203,7 @@ TOutcome CConversion::Run() {
   KeepFiles();
   m_Outcome.bImported = m_Window.ctlImporting.IsAllOk();
   if (m_Options.bCheckOnly) {
+    if (m_Outcome.bImported) KeepWarnings();
     if (m_Outcome.bImported) m_Outcome.eStatus = eConverted;
     return m_Outcome;
   }
@@ -219,6 +224,10 @@ void CConversion::KeepLayers() {
   for (const auto& Item : m_Window.ctlExporting.lstLayers.Items) {
     m_Outcome.aLayers.push_back({Item.Text, Item.Checked});
   }
+}
+
+void CConversion::KeepWarnings() {
+  for (const auto& sText : WarningsOf(m_Window)) m_Outcome.aMessages.push_back({false, "", sText, true});
 }
 
 void CConversion::KeepSummary() {
