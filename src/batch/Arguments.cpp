@@ -5,6 +5,7 @@
 
 #include "base/Configuration.h"
 #include "base/ST.h"
+#include "batch/Completion.h"
 #include "batch/ExitStatus.h"
 #include "batch/JobFile.h"
 
@@ -170,6 +171,7 @@ std::optional<TArguments> ReadArguments(int argc, const char* const* argv, std::
   pCheck->require_subcommand(1);
   pCheck->fallthrough();
   const auto Check = AddCommands(*pCheck, CheckOptions, true);
+  AddCompletion(App, Out);
   try {
     App.parse(argc, argv);
     Arguments.bCheckOnly = pCheck->parsed();
@@ -177,6 +179,9 @@ std::optional<TArguments> ReadArguments(int argc, const char* const* argv, std::
              Arguments);
     return Arguments;
   } catch (const CLI::ParseError& Error) {
+    if (App.get_subcommands().empty() && argc > 1 && argv[1][0] != '-') {
+      Err << "vrek-batch: unknown command \"" << argv[1] << "\"\n";
+    }
     nStatus = App.exit(Error, Out, Err) == 0 ? eConverted : eUsage;
   } catch (const UsageError& Error) {
     Err << "vrek-batch: " << Error.what() << "\n";

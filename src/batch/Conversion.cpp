@@ -30,6 +30,19 @@ class CAppScope {
   clsAppModel* m_pBefore;
 };
 
+// Whether a last step came through. A failure is told, also where the log can't be opened.
+template <class TBody>
+bool Done(const char* sSource, TBody&& Body) {
+  bool bDone = false;
+  TopLevel([&] {
+    bDone = Guard(sSource, false, [&] {
+      Body();
+      return true;
+    });
+  });
+  return bDone;
+}
+
 class CConversion {
  public:
   CConversion(const TJob& Job, const TConversionOptions& Options)
@@ -169,10 +182,7 @@ void CConversion::Export() {
   }
   m_Outcome.eStatus = eNotWritten;
   if (!CLandXML::WroteWhole()) return;
-  m_Outcome.bExported = Guard("Commit", false, [&] {
-    m_Platform.Output.Commit();
-    return true;
-  });
+  m_Outcome.bExported = Done("Commit", [&] { m_Platform.Output.Commit(); });
   if (!m_Outcome.bExported) return;
   m_Outcome.eStatus = eConverted;
   KeepSummary();
@@ -181,12 +191,11 @@ void CConversion::Export() {
 
 // Comes into its place whole or not at all, like the document.
 void CConversion::Plot() {
-  const bool bWritten = Guard("Plot", false, [&] {
+  const bool bWritten = Done("Plot", [&] {
     const auto File = m_Platform.Output.Create(m_Job.sPlot);
     File->Write(SvgPlot::PlotAsSvg(PreviewOf(m_Window)));
     File->Close();
     m_Platform.Output.Commit();
-    return true;
   });
   if (!bWritten) m_Outcome.eStatus = eNotWritten;
 }

@@ -1,5 +1,5 @@
-// What the program needs of its surroundings, each behind a small interface: a window front, the batch command
-// and the tests put their own in. All texts are UTF-8.
+// What the program needs of its surroundings, each behind a small interface: a window front, the batch
+// command and the tests put their own in. All texts are UTF-8.
 #pragma once
 
 #include <ctime>
@@ -19,7 +19,8 @@ class IDialogs {
   virtual ~IDialogs() = default;
   /// Shows a text with an OK button and waits for it.
   virtual void MessageBox(std::string_view sText, EIcon eIcon) = 0;
-  /// Filter: descriptions and patterns separated by bars, "(*.PLT;*.RTF)|*.plt;*.rtf|(*.*)|*.*". "" when dismissed.
+  /// Filter: descriptions and patterns separated by bars, "(*.PLT;*.RTF)|*.plt;*.rtf|(*.*)|*.*". "" when
+  /// dismissed.
   virtual std::string OpenFile(std::string_view sFilter) = 0;
   virtual std::string SaveFile(std::string_view sFilter, std::string_view sFilename) = 0;
 };
@@ -35,9 +36,10 @@ class IClock {
 class IEnvironment {
  public:
   virtual ~IEnvironment() = default;
-  virtual std::string UserName() const = 0;          ///< empty if there is none
-  virtual std::string ProgramDirectory() const = 0;  ///< of the executable, links resolved, without a closing separator
-  virtual std::string TempDirectory() const = 0;     ///< with its closing separator, or empty
+  virtual std::string UserName() const = 0;  ///< empty if there is none
+  virtual std::string ProgramDirectory()
+      const = 0;  ///< of the executable, links resolved, without a closing separator
+  virtual std::string TempDirectory() const = 0;  ///< with its closing separator, or empty
 };
 
 /// Per-user settings: application, section, key to text.

@@ -12,12 +12,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Whether a path names something that a rename would destroy rather than fill.
+/// Whether a path names something that a rename would destroy rather than fill. /dev/stdout and its like may
+/// lead to a regular file and are filled all the same; what lies in /dev/shm is a file like any other.
 bool IsWrittenDirectly(const std::string& sPath) {
   std::error_code Ignored;
   const fs::file_status Status = fs::status(sPath, Ignored);
   if (!fs::exists(Status) || fs::is_directory(Status)) return false;
-  return !fs::is_regular_file(Status) || sPath.starts_with("/dev/");
+  return !fs::is_regular_file(Status) || (sPath.starts_with("/dev/") && !sPath.starts_with("/dev/shm/"));
 }
 
 }  // namespace

@@ -16,8 +16,8 @@ class StagedOutput final : public IOutputFiles {
   ~StagedOutput() override;  ///< discards what wasn't committed
 
   /// A file that Commit brings to its path. What is there already and is no regular file (a pipe, a device,
-  /// all below /dev) is written at once. A second file for the same path takes the place of the first.
-  /// Failures: 70, 75 (a folder), 76, 61.
+  /// all below /dev but the files of /dev/shm) is written at once. A second file for the same path takes the
+  /// place of the first. Failures: 70, 75 (a folder), 76, 61.
   std::unique_ptr<IOutputFile> Create(const std::string& sPath) override;
 
   /// Brings the files into place, in the order of their creation. One that couldn't be written, or was never

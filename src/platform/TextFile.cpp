@@ -25,8 +25,12 @@ bool IsPath(const std::string& sPath) {
   Raise(FailureNumber(nErrno));
 }
 
+// Beyond any listing; a file of this size would take the machine's memory with it.
+constexpr std::size_t nMostBytes = std::size_t{1} << 31;
+
 // Reads until the system says that there is no more: a size that changes or isn't known does no harm.
 std::string ReadToEnd(int nFile, std::size_t nExpected) {
+  if (nExpected > nMostBytes) Raise(Error::nOutOfMemory);
   std::string sBytes(nExpected + 1, '\0');
   std::size_t nRead = 0;
   for (;;) {
@@ -35,6 +39,7 @@ std::string ReadToEnd(int nFile, std::size_t nExpected) {
     if (n < 0 && errno == EINTR) continue;
     if (n < 0) Raise(FailureNumber(errno));
     nRead += static_cast<std::size_t>(n);
+    if (nRead > nMostBytes) Raise(Error::nOutOfMemory);
     if (nRead == sBytes.size()) sBytes.resize(2 * nRead + 65536);
   }
   sBytes.resize(nRead);
@@ -48,7 +53,9 @@ std::string ReadWholeFile(const std::string& sPath) {
   const Descriptor File(::open(sPath.c_str(), O_RDONLY | O_CLOEXEC));
   if (File.Get() < 0) RaiseOpenFailure(sPath, errno);
   struct stat Status {};
-  const bool bSized = ::fstat(File.Get(), &Status) == 0 && S_ISREG(Status.st_mode) && Status.st_size > 0;
+  const bool bKnown = ::fstat(File.Get(), &Status) == 0;
+  if (bKnown && S_ISCHR(Status.st_mode)) Raise(Error::nPathFileAccess);  // devices may have no end
+  const bool bSized = bKnown && S_ISREG(Status.st_mode) && Status.st_size > 0;
   return ReadToEnd(File.Get(), bSized ? static_cast<std::size_t>(Status.st_size) : 0);
 }
 

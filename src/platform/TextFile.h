@@ -11,8 +11,8 @@ namespace vrek {
 
 class CTextFile {
  public:
-  /// Reads the file. Failures: 53 not found, 70 no permission, 76 no such folder, 75 any other (a folder,
-  /// say).
+  /// Reads the file. Failures: 53 not found, 70 no permission, 76 no such folder, 7 larger than 2 GiB, 75 any
+  /// other (a folder or a device, say).
   explicit CTextFile(const std::string& sPath);
 
   /// True as soon as the last line has been read, with or without a line end behind it; of an empty file, at

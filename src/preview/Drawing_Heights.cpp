@@ -11,10 +11,6 @@ namespace {
 constexpr double dGridAcross = 90, dGridUp = 35;  // device units between grid lines, at least
 constexpr int nMostLines = 1000;
 
-int DecimalsFor(double dStep) {
-  return dStep >= 1 ? 0 : static_cast<int>(std::ceil(-std::log10(dStep) - 1e-9));
-}
-
 // Heights at the left edge; chainages or offsets at the lower one.
 void DrawGrid(CCanvas& Canvas, bool bChainages) {
   const auto& View = Canvas.View();
@@ -26,14 +22,15 @@ void DrawGrid(CCanvas& Canvas, bool bChainages) {
   for (double n = std::ceil(LowerLeft.dY / dUp); n * dUp <= UpperRight.dY && nLines < nMostLines; ++n) {
     const double dY = View.ToDevice(0, n * dUp).dY;
     Canvas.Line({{0, dY}, {View.dWidth, dY}}, Style);
-    Canvas.Label({{4, dY - 2}, FormatReal(n * dUp, DecimalsFor(dUp)), EAnchor::eStart, EInk::eText});
+    Canvas.Label(
+        {{4, dY - 2}, FormatReal(n * dUp, Viewport::StepDecimals(dUp)), EAnchor::eStart, EInk::eText});
     ++nLines;
   }
   nLines = 0;
   for (double n = std::ceil(LowerLeft.dX / dAcross); n * dAcross <= UpperRight.dX && nLines < nMostLines;
        ++n) {
     const double dX = View.ToDevice(n * dAcross, 0).dX;
-    const int nDecimals = DecimalsFor(dAcross);
+    const int nDecimals = Viewport::StepDecimals(dAcross);
     Canvas.Line({{dX, 0}, {dX, View.dHeight}}, Style);
     Canvas.Label({{dX, View.dHeight - 4},
                   bChainages ? ChainageText(n * dAcross, nDecimals) : FormatReal(n * dAcross, nDecimals),

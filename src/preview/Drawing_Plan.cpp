@@ -37,10 +37,6 @@ void Tick(CCanvas& Canvas, const Preview::TPlanPlace& Place, double dLength, con
   Canvas.Line({{At.dX - dx, At.dY - dy}, {At.dX + dx, At.dY + dy}}, Style);
 }
 
-int DecimalsFor(double dStep) {
-  return dStep >= 1 ? 0 : static_cast<int>(std::ceil(-std::log10(dStep) - 1e-9));
-}
-
 void DrawChainages(CCanvas& Canvas, const TPreviewAligment& Aligment, int nSeries) {
   const double dStep = std::max(Viewport::NiceStep(dMarkDistance / Canvas.View().dScaleX), 0.001);
   const double dFirst = std::ceil(Preview::FirstChainage(Aligment) / dStep);
@@ -57,7 +53,7 @@ void DrawChainages(CCanvas& Canvas, const TPreviewAligment& Aligment, int nSerie
                             : Place.dAlongY > 0.3 ? EAnchor::eStart
                                                   : EAnchor::eMiddle;
     Canvas.Label({{At.dX + Place.dAlongY * dSide, At.dY + Place.dAlongX * (dSide + dTextHeight / 2) + 4},
-                  ChainageText(dChainage, DecimalsFor(dStep)),
+                  ChainageText(dChainage, Viewport::StepDecimals(dStep)),
                   eAnchor,
                   EInk::eText});
   }
@@ -87,7 +83,7 @@ void DrawScaleBar(CCanvas& Canvas) {
   Canvas.Line({{dLeft, dBottom - 4}, {dLeft, dBottom}, {dRight, dBottom}, {dRight, dBottom - 4}},
               {{}, EInk::eText, 0, 1.5, false});
   Canvas.Label({{(dLeft + dRight) / 2, dBottom - 6},
-                FormatReal(dMetres, DecimalsFor(dMetres)) + " m",
+                FormatReal(dMetres, Viewport::StepDecimals(dMetres)) + " m",
                 EAnchor::eMiddle,
                 EInk::eText});
 }

@@ -66,5 +66,9 @@ double NiceStep(double dLeast) {
   return 10 * dDecade;
 }
 
+int StepDecimals(double dStep) {
+  return dStep >= 1 ? 0 : static_cast<int>(std::ceil(-std::log10(dStep) - 1e-9));
+}
+
 }  // namespace Viewport
 }  // namespace vrek

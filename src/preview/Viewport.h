@@ -41,5 +41,8 @@ void Zoom(TViewport& View, double dFactor, double dX, double dY);
 /// The smallest of 1, 2, 5, 10, 20, 50 ... (or 0.5, 0.2, 0.1 ...) that isn't below dLeast, which is above 0.
 double NiceStep(double dLeast);
 
+/// How many decimals a multiple of such a step needs.
+int StepDecimals(double dStep);
+
 }  // namespace Viewport
 }  // namespace vrek

@@ -42,10 +42,11 @@ void frmWizard::Load(const TMakeLogic& MakeLogic) {
   ShowFirstPage();
 }
 
+// Settings that can't be saved, even where the log can't tell of it either, don't hold up the end.
 void frmWizard::Unload() {
-  if (m_oWizard) m_oWizard->Release();
+  if (m_oWizard) TopLevel([&] { m_oWizard->Release(); });
   m_oWizard.reset();
-  Guard("SaveFilenames", [&] { ctlFiles.SaveFilenames(); });
+  TopLevel([&] { Guard("SaveFilenames", [&] { ctlFiles.SaveFilenames(); }); });
 }
 
 void frmWizard::UpdateText() {

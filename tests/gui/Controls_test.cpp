@@ -154,11 +154,7 @@ TEST_F(Controls, CheckTheLayersOfARoad) {
   EXPECT_EQ(Run.Wizard.ctlExporting.GetSelectedLayers(), "$" + pList->item(0)->text().toStdString() + "$");
 }
 
-// Every control that takes the focus says what it is, and no two on a page answer to the same letter.
-TEST_F(Controls, AreReachedByKeysAndNamed) {
-  WizardRun Run(Platform, Model, nAllJobs);
-  Run.Click("optDesign3");
-  Run.Click("cmdNext");
+void ExpectNamesAndLetters(const WizardRun& Run) {
   QStringList aLetters;
   for (auto* pWidget : Run.Window->findChildren<QWidget*>()) {
     if (!pWidget->isVisible() || !(pWidget->focusPolicy() & Qt::TabFocus)) continue;
@@ -168,8 +164,39 @@ TEST_F(Controls, AreReachedByKeysAndNamed) {
     if (!pButton || !pButton->text().contains('&')) continue;
     aLetters << pButton->text()[pButton->text().indexOf('&') + 1].toLower();
   }
-  EXPECT_GE(aLetters.size(), 5);
+  EXPECT_GE(aLetters.size(), 3);
   EXPECT_EQ(aLetters.removeDuplicates(), 0);
+}
+
+// Every control that takes the focus says what it is, and no two on a page answer to the same letter.
+TEST_F(Controls, AreReachedByKeysAndNamed) {
+  WizardRun Run(Platform, Model, nAllJobs);
+  ExpectNamesAndLetters(Run);
+  Run.Click("optDesign0");
+  Run.Click("cmdNext");
+  WizardRun::Drop(Run.Window.get(), {sCases + "road_0006/Тоннель 4.rtf", sCases + "road_0006/rasante.alz",
+                                     sCases + "road_0006/perfiles.TRV"});
+  for (const int nPage : {ePageFiles, ePagePreferences, ePageImporting, ePageExporting, ePageResult}) {
+    ASSERT_EQ(Run.Wizard.CurrentPage(), nPage);
+    ExpectNamesAndLetters(Run);
+    Run.Wizard.ctlPreferences.SetToleranceHz(0.02);
+    if (nPage != ePageResult) Run.Key(Qt::Key_Return);
+  }
+}
+
+// From the first control of a page the Tab key comes round to it again, by way of Next.
+TEST_F(Controls, StandInTheOrderOfTheTabKey) {
+  WizardRun Run(Platform, Model, nAllJobs);
+  Run.Click("optDesign2");
+  Run.Click("cmdNext");
+  QStringList aReached;
+  for (int n = 0; n < 12; ++n) {
+    aReached << QApplication::focusWidget()->objectName();
+    Run.Key(Qt::Key_Tab);
+  }
+  EXPECT_EQ(aReached.mid(0, 3), QStringList({"chkFile0", "txtFileName0", "cmdBrowse0"}));
+  EXPECT_TRUE(aReached.contains("cmdBack"));
+  EXPECT_LT(aReached.indexOf("cmdBack"), aReached.indexOf("cmdNext"));
 }
 
 TEST(DialogFilter, TakesTheToolkitsForm) {

@@ -1,5 +1,7 @@
 // Whole jobs from the first page to the written file, by mouse and keys.
+#include <QDesktopServices>
 #include <QTreeWidget>
+#include <QUrl>
 
 #include "gui/WizardRun.h"
 #include "shell/ProcessEnd.h"
@@ -9,6 +11,18 @@ namespace vrek::test {
 namespace {
 
 const QString sDoubleTrack = QString(VREK_GOLDEN_CASES) + "/via_doble_6km/";
+
+// Stands in for the desktop's file manager.
+class FolderOpener : public QObject {
+  Q_OBJECT
+ public:
+  FolderOpener() { QDesktopServices::setUrlHandler("file", this, "Open"); }
+  ~FolderOpener() override { QDesktopServices::unsetUrlHandler("file"); }
+  QUrl Opened;
+
+ public slots:
+  void Open(const QUrl& Url) { Opened = Url; }
+};
 
 class Jobs : public AppTest {
  protected:
@@ -98,7 +112,9 @@ TEST_F(Jobs, ComeBackFromTheResultAsTheyWere) {
   Run.Click("cmdNext");
   ASSERT_EQ(Run.Wizard.CurrentPage(), ePageResult);
   EXPECT_FALSE(Run.IsOnShow("lblTitle"));
-  EXPECT_TRUE(Run.IsOnShow("cmdOpenFolder"));
+  FolderOpener Opener;
+  Run.Click("cmdOpenFolder");
+  EXPECT_EQ(Opener.Opened.toLocalFile().toStdString(), Directory.string());
   Run.Click("cmdBack");
   EXPECT_EQ(Run.Find<QLabel>("lblTitle")->text(), sTitle);
   EXPECT_FALSE(Run.IsOnShow("cmdOpenFolder"));
@@ -115,6 +131,24 @@ TEST_F(Jobs, EndWithACodeOnCancel) {
   Run.Click("cmdCancel");
   EXPECT_EQ(nExit, 1);
   EXPECT_TRUE(Platform.aSettings.empty());
+}
+
+// The real end of the process, in a child: at once, with the code of a hosted run, none in a stand-alone run.
+TEST_F(Jobs, EndTheirProcess) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");  // a new process: the toolkit has threads of its own
+  SetProcessStop({});
+  const auto Walk = [this](int nPresses, const char* sLast) {
+    WizardRun Run(Platform, Model, nAllJobs);
+    Run.Click("optDesign2");
+    Run.Click("cmdNext");
+    Run.Type("txtFileName0", QString(VREK_GOLDEN_CASES) + "/via_unica_8km/Vía única.plt");
+    for (int n = 0; n < nPresses; ++n) Run.Click("cmdNext");
+    Run.Click(sLast);
+  };
+  EXPECT_EXIT(Walk(4, "cmdNext"), ::testing::ExitedWithCode(0), "");
+  EXPECT_EXIT(Walk(2, "cmdCancel"), ::testing::ExitedWithCode(1), "");
+  Model.DebugMode = true;
+  EXPECT_EXIT(Walk(0, "cmdCancel"), ::testing::ExitedWithCode(0), "");
 }
 
 // While a run is on, the title bar's close box presses the panel's Cancel, and the window closes behind it.
@@ -143,3 +177,5 @@ TEST_F(Jobs, CloseWhenTheRunHasEnded) {
 
 }  // namespace
 }  // namespace vrek::test
+
+#include "Jobs_test.moc"

@@ -54,6 +54,21 @@ PreviewView::PreviewView(QWidget* pParent)
       m_pAligment(new QComboBox(this)),
       m_pSection(new QSlider(Qt::Horizontal, this)),
       m_pInfo(new QLabel(this)) {
+  SetTexts();
+  SetNames();
+  LayOut();
+  connect(m_pTabs, &QTabBar::currentChanged, this, [this] { ShowPicture(false); });
+  connect(m_pFit, &QPushButton::clicked, m_pPicture, &DrawingView::Fit);
+  connect(m_pSave, &QPushButton::clicked, this, &PreviewView::SavePicture);
+  connect(m_pPicture, &DrawingView::Clicked, this, &PreviewView::Select);
+  connect(m_pSection, &QSlider::valueChanged, this, [this] { ShowPicture(false); });
+  connect(m_pAligment, &QComboBox::currentIndexChanged, this, [this] {
+    ShowSectionControls();
+    ShowPicture(false);
+  });
+}
+
+void PreviewView::SetTexts() {
   m_pTabs->addTab(Word("WIN_PLAN", "Plan"));
   m_pTabs->addTab(Word("WIN_PROFILE", "Profile"));
   m_pTabs->addTab(Word("WIN_SECTION", "Section"));
@@ -68,6 +83,9 @@ PreviewView::PreviewView(QWidget* pParent)
   m_pSection->setAccessibleName(Word("WIN_SECTION", "Section"));
   m_pInfo->setTextInteractionFlags(Qt::TextSelectableByMouse);
   m_pInfo->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+void PreviewView::SetNames() {
   m_pTabs->setObjectName("tabPicture");
   m_pFit->setObjectName("cmdFit");
   m_pSave->setObjectName("cmdSavePicture");
@@ -75,16 +93,6 @@ PreviewView::PreviewView(QWidget* pParent)
   m_pSection->setObjectName("sldSection");
   m_pAligment->setObjectName("cmbAligment");
   m_pInfo->setObjectName("lblElement");
-  LayOut();
-  connect(m_pTabs, &QTabBar::currentChanged, this, [this] { ShowPicture(false); });
-  connect(m_pFit, &QPushButton::clicked, m_pPicture, &DrawingView::Fit);
-  connect(m_pSave, &QPushButton::clicked, this, &PreviewView::SavePicture);
-  connect(m_pPicture, &DrawingView::Clicked, this, &PreviewView::Select);
-  connect(m_pSection, &QSlider::valueChanged, this, [this] { ShowPicture(false); });
-  connect(m_pAligment, &QComboBox::currentIndexChanged, this, [this] {
-    ShowSectionControls();
-    ShowPicture(false);
-  });
 }
 
 void PreviewView::LayOut() {

@@ -22,6 +22,8 @@ class PreviewView final : public QWidget {
  private:
   enum EPicture { ePlan, eProfile, eSection };
 
+  void SetTexts();
+  void SetNames();
   void LayOut();
   void ShowPicture(bool bKeepPlace);
   void ShowSectionControls();

@@ -158,6 +158,7 @@ void WizardWindow::closeEvent(QCloseEvent* pEvent) {
 void WizardWindow::keyPressEvent(QKeyEvent* pEvent) {
   if (pEvent->key() != Qt::Key_Return && pEvent->key() != Qt::Key_Enter)
     return QWidget::keyPressEvent(pEvent);
+  if (pEvent->isAutoRepeat()) return;  // a key held down doesn't run through the pages
   auto* pButton = qobject_cast<QPushButton*>(focusWidget());
   (pButton ? pButton : m_pNext)->click();
 }
