@@ -185,7 +185,7 @@ void CConversion::Export() {
   m_Outcome.bExported = Done("Commit", [&] { m_Platform.Output.Commit(); });
   if (!m_Outcome.bExported) return;
   m_Outcome.eStatus = eConverted;
-  KeepSummary();
+  Done("KeepSummary", [&] { KeepSummary(); });  // a value that is no number has no text
   if (!m_Job.sPlot.empty()) Plot();
 }
 
