@@ -4,7 +4,8 @@ set(CPACK_PACKAGE_NAME vrek)
 set(CPACK_PACKAGE_VENDOR "The Vrek developers")
 set(CPACK_PACKAGE_CONTACT "The Vrek developers <vrek@branthe.example>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "converter of road, rail and tunnel designs to LandXML")
-set(CPACK_PACKAGE_DESCRIPTION "Vrek reads the plan, profile and cross-section listings of a road-design package,
+set(CPACK_PACKAGE_DESCRIPTION "Vrek reads the plan, profile and cross-section listings of a
+road-design package,
 cant tables of railways and bore profiles of tunnels, checks them and writes
 one LandXML 1.0 file for the field.
 .

@@ -32,6 +32,7 @@ void Tell(const TOutcome& Outcome, bool bCheckOnly, std::ostream& Err) {
     std::string sText = Message.sText;
     std::erase(sText, '\r');
     if (Message.bBox) Err << sText << "\n";
+    if (Message.bWarning) Err << "warning: " << sText << "\n";
   }
   if (!Outcome.bValid) Err << "refused: " << Outcome.sFaultText << "\n";
   TellFiles(Outcome, Err);

@@ -11,6 +11,7 @@
 #include "shell/CommandLine.h"
 #include "shell/ErrHandler.h"
 #include "wizard/PreviewOf.h"
+#include "wizard/WarningsOf.h"
 #include "wizard/frmWizard.h"
 
 namespace vrek::batch {
@@ -65,11 +66,12 @@ class CConversion {
   void Plot();
   void AddBox(std::string_view sText, EIcon eIcon) {
     m_Outcome.aMessages.push_back(
-        {true, eIcon == EIcon::eCritical ? "critical" : "warning", std::string(sText)});
+        {true, eIcon == EIcon::eCritical ? "critical" : "warning", std::string(sText), false});
   }
   void KeepFiles();
   void KeepSummary();
   void KeepLayers();
+  void KeepWarnings();
   int Page() const { return m_Window.CurrentPage(); }
 
   const TJob& m_Job;
@@ -84,7 +86,7 @@ void CConversion::Start() {
   auto& Model = m_App.Model();
   InitFormats(m_Job.nFormats.value_or(Configuration::nFormatsSupport));
   Model.OnLogged = [this](std::string_view sText) {
-    m_Outcome.aMessages.push_back({false, "", std::string(sText)});
+    m_Outcome.aMessages.push_back({false, "", std::string(sText), false});
   };
   Model.XmlFileToExport = m_Job.sOutput;
   Model.ConversionInfo.sJobName = m_Job.sName;
@@ -172,6 +174,7 @@ void CConversion::TypeExport() {
 void CConversion::Export() {
   TypeExport();
   KeepLayers();
+  KeepWarnings();
   m_Window.cmdNext_Click();
   if (Page() != ePageResult) {
     if (!CLandXML::WroteWhole()) m_Outcome.eStatus = eNotWritten;
@@ -182,7 +185,7 @@ void CConversion::Export() {
   m_Outcome.bExported = Done("Commit", [&] { m_Platform.Output.Commit(); });
   if (!m_Outcome.bExported) return;
   m_Outcome.eStatus = eConverted;
-  KeepSummary();
+  Done("KeepSummary", [&] { KeepSummary(); });  // a value that is no number has no text
   if (!m_Job.sPlot.empty()) Plot();
 }
 
@@ -209,6 +212,7 @@ TOutcome CConversion::Run() {
   KeepFiles();
   m_Outcome.bImported = m_Window.ctlImporting.IsAllOk();
   if (m_Options.bCheckOnly) {
+    if (m_Outcome.bImported) KeepWarnings();
     if (m_Outcome.bImported) m_Outcome.eStatus = eConverted;
     return m_Outcome;
   }
@@ -229,6 +233,10 @@ void CConversion::KeepLayers() {
   for (const auto& Item : m_Window.ctlExporting.lstLayers.Items) {
     m_Outcome.aLayers.push_back({Item.Text, Item.Checked});
   }
+}
+
+void CConversion::KeepWarnings() {
+  for (const auto& sText : WarningsOf(m_Window)) m_Outcome.aMessages.push_back({false, "", sText, true});
 }
 
 void CConversion::KeepSummary() {

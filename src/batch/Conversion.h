@@ -10,9 +10,10 @@
 namespace vrek::batch {
 
 struct TMessage {
-  bool bBox = false;  ///< a message box, else a log entry
+  bool bBox = false;  ///< a message box, else a log entry or a warning
   std::string sIcon;  ///< "warning" or "critical" of a box
   std::string sText;
+  bool bWarning = false;  ///< what no check refuses; neither shown in a box nor logged
 };
 
 struct TFileResult {

@@ -30,7 +30,7 @@ ordered_json AsJson(const TOutcome& Outcome) {
   }
   Json["messages"] = ordered_json::array();
   for (const auto& Message : Outcome.aMessages) {
-    ordered_json Entry{{"kind", Message.bBox ? "message box" : "log"}};
+    ordered_json Entry{{"kind", Message.bBox ? "message box" : Message.bWarning ? "warning" : "log"}};
     if (Message.bBox) Entry["icon"] = Message.sIcon;
     Entry["text"] = Message.sText;
     Json["messages"].push_back(Entry);
@@ -68,8 +68,8 @@ std::string JoinOutcomes(const std::vector<std::string>& aOutcomes) {
 std::string OutcomeOfBrokenRun(const std::string& sJobFile, const std::string& sWords,
                                const std::string& sSaid) {
   TOutcome Outcome;
-  Outcome.aMessages.push_back({false, "", sJobFile + ": " + sWords});
-  if (!sSaid.empty()) Outcome.aMessages.push_back({false, "", sSaid});
+  Outcome.aMessages.push_back({false, "", sJobFile + ": " + sWords, false});
+  if (!sSaid.empty()) Outcome.aMessages.push_back({false, "", sSaid, false});
   return AsText(AsJson(Outcome));
 }
 

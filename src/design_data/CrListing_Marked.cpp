@@ -29,7 +29,7 @@ constexpr int nFieldLimit = 3;
 // The fields of the line in hand. An empty line, or none at the end of the file, leaves those of the line
 // before.
 struct TFields {
-  TTokens aTokens;
+  TTokens aTokens = TTokens(2);  // before the first line: one empty field
   int nCount = 0;
 
   std::string_view operator[](std::size_t n) const { return aTokens[n].sText; }

@@ -18,11 +18,18 @@ int Chords(const TVtElement& Element, double dLength) {
   return static_cast<int>(std::clamp(nChords, 1.0, double{nMostChords}));
 }
 
-void AddElement(std::vector<TProfileRun>& aOut, const TVtElement& Element) {
+// A grade runs to where the next element starts: the document holds the vertices, and behind a sharp vertex
+// the element's own slope may be that of the grade before it.
+void AddElement(std::vector<TProfileRun>& aOut, const TVtElement& Element, const TVtElement* pNext) {
   const double dLength = std::fabs(Element.dLength);
   const bool bCurve = Element.dKv != 0;
   if (aOut.empty() || aOut.back().bCurve != bCurve) aOut.push_back({bCurve, {}});
   auto& aPoints = aOut.back().aPoints;
+  if (!bCurve && pNext) {
+    aPoints.push_back({Element.dChainage, Element.dHeight});
+    aPoints.push_back({pNext->dChainage, pNext->dHeight});
+    return;
+  }
   const int nChords = Chords(Element, dLength);
   for (int n = 0; n <= nChords; ++n) {
     const double dAlong = dLength * n / nChords;
@@ -37,7 +44,8 @@ std::vector<TProfileRun> MakeProfile(const TVtElements& aVt, int nFirst, int nLa
   std::vector<TProfileRun> aOut;
   for (int i = std::max(nFirst, 1); i <= std::min(nLast, UpperBound(aVt)); ++i) {
     try {
-      AddElement(aOut, aVt[static_cast<std::size_t>(i)]);
+      const auto n = static_cast<std::size_t>(i);
+      AddElement(aOut, aVt[n], i < UpperBound(aVt) ? &aVt[n + 1] : nullptr);
     } catch (const Failure&) {
       // An element that can't be worked out leaves a gap.
     }

@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "platform/Platform.h"
-#include "platform/Progress.h"
 #include "shell/LanguageFile.h"
 
 namespace vrek {
@@ -58,9 +57,7 @@ class clsAppModel {
   CConverterInfo ConverterInfo;
   CConversionInfo ConversionInfo;
   clsLanguageFile TokenFile;
-  IProgress* Progress = nullptr;                       ///< the wizard's panel once there is a wizard
   std::function<void(std::string_view)> OnLogged;      ///< told of each log entry, for the batch command
-  std::function<std::string(int)> SelectedStringLine;  ///< name chosen for an alignment; unset: none
 
  private:
   TPlatform m_Platform;

@@ -1,5 +1,6 @@
 // The Result page: its rows for each job, laid out before the document is written.
 #include "shell/AppModel.h"
+#include "wizard/WarningsOf.h"
 #include "wizard/clsWizard.h"
 #include "wizard/frmWizard.h"
 
@@ -23,10 +24,17 @@ void AddRows(ctlResult& Result, int nPage, int nRow, bool bWanted, const TRowTok
   Result.ConfigValueInPage(nPage, nRow + 1, AppModel().GetToken(Tokens.sEnd));
 }
 
+void ListWarnings(const frmWizard& Window, TListBox& List) {
+  List.Items.clear();
+  for (const auto& sText : WarningsOf(Window)) List.Items.push_back({sText, 0, false});
+  List.Visible = !List.Items.empty();
+}
+
 }  // namespace
 
 void clsWizard::LayOutResultRows() {
   auto& Result = m_Window.ctlResult;
+  ListWarnings(m_Window, Result.lstWarnings);
   const auto& Files = m_Window.ctlFiles;
   const int nJob = m_Window.ctlJobType.JobType();
   Result.DeleteAllPages();

@@ -46,6 +46,7 @@ class ctlResult {
   TPart frResult, lblPage;
   std::array<TPart, 2> cmdPage;
   std::array<TPart, 6> lblDescription, lblData, lblUnit;
+  TListBox lstWarnings{.Items = {}, .Selected = -1, .Visible = false};  ///< shown while it has items
 
  private:
   const TResultRow* Row(int nPage, int nFile) const;

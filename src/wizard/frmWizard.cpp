@@ -36,7 +36,6 @@ void frmWizard::Load(const TMakeLogic& MakeLogic) {
   m_aPages = {ePageJob};
   m_nCurrent = 0;
   ctlProgress.Visible = ctlProgress.cmbCancel.Visible = false;
-  AppModel().Progress = &ctlProgress;
   m_oWizard = MakeLogic ? MakeLogic(*this) : std::make_unique<clsEntry>(*this);
   UpdateText();
   ShowFirstPage();

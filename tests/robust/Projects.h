@@ -73,7 +73,8 @@ class ProjectTest : public ::testing::Test {
     EXPECT_LT(std::chrono::steady_clock::now() - Start, std::chrono::seconds(10));
     EXPECT_EQ(fuzz::Fault(Outcome), "");
     EXPECT_EQ(Outcome.bExported, std::filesystem::exists(Output()));
-    if (Outcome.bExported) {
+    // The text of tunnel profiles passes through as it stands, whatever it says.
+    if (Outcome.bExported && Outcome.sJob != "tunnel") {
       EXPECT_EQ(DocumentFault(ReadBytes(Output())), "");
     }
     return Outcome;

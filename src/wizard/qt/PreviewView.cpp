@@ -165,7 +165,7 @@ void PreviewView::ShowPicture(bool bKeepPlace) {
   const bool bSection = m_pTabs->currentIndex() == eSection;
   m_pSection->setVisible(bSection);
   m_pAligment->setVisible(bSection && m_pAligment->count() > 1);
-  m_pInfo->setVisible(!bSection);
+  m_pInfo->setVisible(m_pTabs->currentIndex() == ePlan);
   m_pPicture->SetContent(Content(), bKeepPlace);
 }
 

@@ -12,9 +12,15 @@ ResultView::ResultView(ctlResult& Control, std::function<TPreview()> MakePreview
     : PageView(pParent),
       m_Control(Control),
       m_MakePreview(std::move(MakePreview)),
-      m_pFrame(new QGroupBox(this)) {
+      m_pFrame(new QGroupBox(this)),
+      m_pWarnings(new QListWidget(this)) {
   auto* pLayout = new QVBoxLayout(this);
   pLayout->addWidget(MakeRows());
+  m_pWarnings->setObjectName("lstWarnings");
+  m_pWarnings->setAccessibleName(Word("WIN_WARNINGS", "Warnings"));
+  m_pWarnings->setWordWrap(true);
+  m_pWarnings->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+  pLayout->addWidget(m_pWarnings);
   pLayout->addWidget(m_pPreview = new PreviewView(this), 1);
 }
 
@@ -57,6 +63,13 @@ void ResultView::Render() {
     m_aRows[n][1]->setAccessibleName(m_aRows[n][0]->text());
   }
   m_pPaging->Render(m_Control.cmdPage, m_Control.lblPage);
+  m_pWarnings->clear();
+  for (const auto& Item : m_Control.lstWarnings.Items) {
+    m_pWarnings->addItem(Text(Item.Text));
+    m_pWarnings->item(m_pWarnings->count() - 1)->setToolTip(Text(Item.Text));
+  }
+  m_pWarnings->setVisible(m_pWarnings->count() > 0);
+  m_pWarnings->setMaximumHeight(4 * m_pWarnings->sizeHintForRow(0) + 2 * m_pWarnings->frameWidth());
 }
 
 }  // namespace vrek::qt

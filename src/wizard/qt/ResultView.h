@@ -3,6 +3,7 @@
 
 #include <QGroupBox>
 #include <QLabel>
+#include <QListWidget>
 #include <array>
 #include <functional>
 
@@ -29,6 +30,7 @@ class ResultView final : public PageView {
   ctlResult& m_Control;
   std::function<TPreview()> m_MakePreview;
   QGroupBox* m_pFrame;
+  QListWidget* m_pWarnings;
   std::array<std::array<QLabel*, 3>, 6> m_aRows{};  // description, value, unit
   Paging* m_pPaging = nullptr;
   PreviewView* m_pPreview = nullptr;

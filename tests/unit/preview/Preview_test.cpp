@@ -90,6 +90,16 @@ TEST(Preview, JoinsTheElementsOfAProfile) {
   EXPECT_NEAR(aRuns[2].aPoints.back().dHeight, 100.8, 1e-9);
 }
 
+TEST(Preview, RunsAGradeFromVertexToVertexWhateverItsSlope) {
+  TVtElements aVt(3);
+  aVt[1] = {1, 0, 100, 0.5, 0, 50};
+  aVt[2] = {2, 50, 101, 0.02, 0, 10};
+  const auto aRuns = Preview::MakeProfile(aVt, 1, 2);
+  ASSERT_EQ(aRuns.size(), 1U);
+  EXPECT_DOUBLE_EQ(aRuns[0].aPoints[1].dHeight, 101);
+  EXPECT_DOUBLE_EQ(aRuns[0].aPoints.back().dHeight, 101.2);
+}
+
 TEST(Preview, FindsPlacesAndElements) {
   const auto aHz = Plan();
   TPreview Shown;

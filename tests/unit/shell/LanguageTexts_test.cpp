@@ -46,7 +46,8 @@ const char* const aWindowTokens[] = {
     "WIN_MARK_NONE", "WIN_REPORT", "WIN_COPY", "WIN_SAVE", "WIN_CLOSE", "WIN_OPEN_FOLDER",
     "WIN_PICTURE", "WIN_PICTURE_KEYS", "WIN_PLAN", "WIN_PROFILE", "WIN_SECTION", "WIN_ALIGMENT",
     "WIN_FIT", "WIN_SAVE_PICTURE", "WIN_STRAIGHT", "WIN_ARC", "WIN_SPIRAL", "WIN_CHAINAGE",
-    "WIN_LENGTH", "WIN_RADIUS", "WIN_PARAMETER", "WIN_LEFT", "WIN_RIGHT", "WIN_RAILS", "WIN_NOTHING"};
+    "WIN_LENGTH", "WIN_RADIUS", "WIN_PARAMETER", "WIN_LEFT", "WIN_RIGHT", "WIN_RAILS", "WIN_NOTHING",
+    "WIN_WARNINGS"};
 // clang-format on
 
 class LanguageTexts : public test::AppTest, public ::testing::WithParamInterface<const char*> {
