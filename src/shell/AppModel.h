@@ -57,7 +57,7 @@ class clsAppModel {
   CConverterInfo ConverterInfo;
   CConversionInfo ConversionInfo;
   clsLanguageFile TokenFile;
-  std::function<void(std::string_view)> OnLogged;      ///< told of each log entry, for the batch command
+  std::function<void(std::string_view)> OnLogged;  ///< told of each log entry, for the batch command
 
  private:
   TPlatform m_Platform;
