@@ -1,6 +1,7 @@
 // Alg: places on an alignment. From a chainage to a point (Alg_Evaluation.cpp), from a chainage to its
 // element (Alg_LookUp.cpp), from a point back to chainage and offset (Alg_Projection.cpp). Offsets: positive
-// to the right of the alignment in the direction of the chainage.
+// to the right of the alignment in the direction of the chainage. Whoever asks often, as for samples along a
+// line, takes the same routines over an index (AligmentIndex.h).
 #pragma once
 
 #include "geometry/GM.h"

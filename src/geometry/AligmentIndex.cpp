@@ -62,8 +62,7 @@ int CHzIndex::NearestVertex(const THzPoint& Point) const {
 double CVtIndex::Height(double dChainage) const {
   const int nLast = UpperBound(*m_pVt);
   if (!m_bInOrder || nLast < 2) return GM::GetHeightAtChainage(*m_pVt, dChainage);
-  // The element that the walk stops at, cut out with the one before it: the plain routine finds the same in
-  // these.
+  // Where the plain walk stops, and its step back.
   const auto Starts = [](const TVtElement& Element, double d) { return Element.dChainage < d; };
   const auto Lower = std::lower_bound(m_pVt->begin() + 1, m_pVt->end(), dChainage, Starts);
   const auto i = std::min(static_cast<int>(Lower - m_pVt->begin()), nLast);

@@ -20,10 +20,11 @@ bool IsInOrder(const TElements& aElements) {
                         [](const auto& a, const auto& b) { return a.dChainage < b.dChainage; });
 }
 
-/// Index over a plan. The array must outlive it and stay as it is.
+/// Index over a plan. The array must outlive it and stay as it is. Building it takes the time of a sort.
 class CHzIndex {
  public:
   explicit CHzIndex(const THzElements& aHz);
+  explicit CHzIndex(THzElements&&) = delete;
 
   const THzElements& Elements() const { return *m_pHz; }
   bool InOrder() const { return m_bInOrder; }
@@ -44,10 +45,11 @@ class CHzIndex {
   std::vector<std::pair<double, int>> m_aAlong;  // coordinate on that axis, element; sorted
 };
 
-/// Index over a profile, for GetHeightAtChainage.
+/// Index over a profile, for GetHeightAtChainage. The array must outlive it and stay as it is.
 class CVtIndex {
  public:
   explicit CVtIndex(const TVtElements& aVt) : m_pVt(&aVt), m_bInOrder(IsInOrder(aVt)) {}
+  explicit CVtIndex(TVtElements&&) = delete;
   /// As GM::GetHeightAtChainage.
   double Height(double dChainage) const;
 
@@ -56,7 +58,7 @@ class CVtIndex {
   bool m_bInOrder;
 };
 
-/// As the routines of the same names over arrays.
+/// As the routines of the same names over arrays; the projection of a point over all elements.
 bool GetCoordFromHzAligment(const CHzIndex& Index, double dChainage, THzPoint& Point);
 bool ProjectPointToAligment(double& dChainage, double& dOffset, const THzPoint& Point, const CHzIndex& Index);
 bool ProjectChainToAnotherAligment(double dChainage, const CHzIndex& Source, const CHzIndex& Target,
