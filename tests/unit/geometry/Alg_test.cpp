@@ -133,6 +133,8 @@ TEST_F(Evaluation, ACubicSpiralIsItsEndWhateverTheChainage) {
   EXPECT_NEAR(Early.dX, 40.0 * 40 * 40 / (6 * 600 * 40) * (1 + 3 * 1600 / (64 * 360000.0)), 1e-9);
   aHz.pop_back();
   EXPECT_FALSE(Alg::GetCoordFromHzAligment(aHz, 60, Early));  // the last element has no next one
+  ASSERT_EQ(Platform.aBoxes.size(), 1u);
+  EXPECT_NE(Platform.aBoxes[0].sText.find("Invalid procedure call"), std::string::npos);
 }
 
 TEST_F(Evaluation, OffEveryElementTheNearestVertexStands) {

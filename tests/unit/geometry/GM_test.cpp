@@ -19,6 +19,7 @@ TEST(Angles, OfEqualPointsAndTheAxes) {
   EXPECT_EQ(Azimuth(-5, 0), 4.71238898038469);
   EXPECT_NEAR(Azimuth(-1, 1), 7 * GM::dPi / 4, 1e-12);
   EXPECT_NEAR(Azimuth(-1, -1), 5 * GM::dPi / 4, 1e-12);
+  EXPECT_EQ(Azimuth(-1, 1), std::atan(-1.0) + 6.28318530717959);  // not the 2π of the normalization
 }
 
 TEST(Angles, AreNormalizedByOneStepOnly) {
@@ -61,6 +62,12 @@ INSTANTIATE_TEST_SUITE_P(All, Arcs, ::testing::Values(
     TArc{"three quarters right", 100, 300 * GM::dHalfPi,     100, -100, GM::dThreeHalvesPi},
     TArc{"three quarters left", -100, 300 * GM::dHalfPi,    -100, -100, GM::dHalfPi}));
 // clang-format on
+
+TEST(Arcs, OfExactlyHalfACircleEndOppositeTheirStart) {
+  const THzPoint End = GM::PointOnArc({0, 0, 0}, 100, GM::dPi * 100, 0.25);
+  EXPECT_NEAR(GM::GetDistance({0, 0, 0}, End), 200, 1e-9);
+  EXPECT_EQ(End.dAzimuth, (0.25 + GM::dPi / 2) + GM::dPi / 2);
+}
 
 TEST(Arcs, RefuseAChordBeyondTheDiameter) {
   EXPECT_THROW(GM::GetArcCenter({0, 0, 0}, {0, 201, 0}, 100, 100), Failure);
