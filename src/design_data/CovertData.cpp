@@ -18,8 +18,8 @@ void AddCrSection(TCrData& Cr, double dChainage, const TPointLists& aLists) {
   const auto nSurfaces =
       std::count_if(aLists.begin(), aLists.end(), [](const auto& a) { return !a.empty(); });
   Section.Surfaces.reserve(static_cast<std::size_t>(nSurfaces));
-  for (std::uint8_t nLayer = 0; nLayer < aLists.size(); ++nLayer) {
-    if (!aLists[nLayer].empty()) AddCrSurface(Cr, aLists[nLayer], nLayer);
+  for (std::size_t n = 0; n < aLists.size(); ++n) {
+    if (!aLists[n].empty()) AddCrSurface(Cr, aLists[n], static_cast<std::uint8_t>(n));
   }
 }
 

@@ -6,7 +6,8 @@
 namespace vrek::CLandXML {
 
 void CElementLines::Begin(int nDeeper) {
-  m_sText.append(static_cast<std::size_t>(Tabs() + nDeeper), '\t');
+  const int nTabs = Tabs() + nDeeper;
+  m_sText.append(static_cast<std::size_t>(nTabs), '\t');
 }
 
 void CElementLines::Append(double dValue) {

@@ -80,7 +80,7 @@ std::string CreateBeside(const fs::path& Target, mode_t nMode) {
   for (int nTry = 0; nTry < 100; ++nTry) {
     const std::string sName =
         "." + Target.filename().string().substr(0, nNameBytes) + ".vrek-" + RandomLetters();
-    const std::string sPath = (Target.parent_path() / sName).string();
+    std::string sPath = (Target.parent_path() / sName).string();
     const Descriptor File(::open(sPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     if (File.Get() < 0 && errno == EEXIST) continue;
     if (File.Get() < 0) Raise(FailureNumber(errno));
