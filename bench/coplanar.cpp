@@ -15,15 +15,12 @@
 #include <string>
 #include <vector>
 
+#include "BenchPlatform.h"
 #include "design_data/CAligmentsDatas.h"
 #include "geometry/Alg.h"
 #include "landxml/CLandXML.h"
-#include "platform/Headless.h"
-#include "platform/MemorySettings.h"
-#include "platform/PosixPlatform.h"
 #include "rail_tunnel/GenerateVt.h"
 #include "rail_tunnel/clsSuperelevation.h"
-#include "shell/AppModel.h"
 
 namespace {
 
@@ -143,18 +140,9 @@ int main(int nArguments, char** aArguments) {
   std::vector<double> aKilometres;
   for (int n = 1; n < nArguments; ++n) aKilometres.push_back(std::atof(aArguments[n]));
   if (aKilometres.empty()) aKilometres = {25, 50, 100};
-  HeadlessDialogs Dialogs([](std::string_view sText, EIcon) {
-    std::printf("%.*s\n", static_cast<int>(sText.size()), sText.data());
-  });
-  SystemClock Clock;
-  PosixEnvironment Environment;
-  MemorySettings Settings;
-  PosixProcesses Processes;
-  NoEvents Events;
-  DirectOutput Output;
-  clsAppModel Model({&Dialogs, &Clock, &Environment, &Settings, &Processes, &Events, &Output});
-  SetAppModel(&Model);
-  const std::string sPath = Environment.TempDirectory() + "vrek_bench_coplanar." + std::to_string(getpid());
+  BenchPlatform Surroundings;
+  const std::string sPath =
+      Surroundings.Environment.TempDirectory() + "vrek_bench_coplanar." + std::to_string(getpid());
 
   bool bLinear = true;
   TTimes Before;

@@ -17,11 +17,8 @@
 #include <string>
 #include <string_view>
 
+#include "BenchPlatform.h"
 #include "landxml/CLandXML.h"
-#include "platform/Headless.h"
-#include "platform/MemorySettings.h"
-#include "platform/PosixPlatform.h"
-#include "shell/AppModel.h"
 #include "stringlines/CCrSec.h"
 
 namespace {
@@ -77,20 +74,10 @@ class RoadMaker {
 };
 
 void Run(const TCase& Case) {
-  HeadlessDialogs Dialogs([](std::string_view sText, EIcon) {
-    std::printf("%.*s\n", static_cast<int>(sText.size()), sText.data());
-  });
-  SystemClock Clock;
-  PosixEnvironment Environment;
-  MemorySettings Settings;
-  PosixProcesses Processes;
-  NoEvents Events;
-  DirectOutput Output;
-  clsAppModel Model({&Dialogs, &Clock, &Environment, &Settings, &Processes, &Events, &Output});
-  SetAppModel(&Model);
+  BenchPlatform Surroundings;
   TCrData Cr = RoadMaker(Case).Make();
   const std::string sPath =
-      Environment.TempDirectory() + "vrek_bench_stringlines." + std::to_string(getpid());
+      Surroundings.Environment.TempDirectory() + "vrek_bench_stringlines." + std::to_string(getpid());
   NoProgress Progress;
   double dStart = 0, dEnd = 0;
 

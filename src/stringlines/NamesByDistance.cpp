@@ -44,6 +44,7 @@ void Join(TIndexes& aLast, TRange& Taken, const TRange& Range, const TIndexes& a
   Taken = {std::min(Taken.nFirst, Range.nFirst), std::max(Taken.nEnd, Range.nEnd)};
 }
 
+// Twice the tolerance would do; the third leaves no doubt to the rounding of the differences.
 bool IsSpread(const TPoints& aPoints, double dTolerance) {
   for (std::size_t n = 1; n < aPoints.size(); ++n) {
     if (!(aPoints[n].dOffset - aPoints[n - 1].dOffset >= 3 * dTolerance)) return false;

@@ -7,16 +7,9 @@
 #include "wizard/frmWizard.h"
 
 namespace vrek {
-namespace {
-
-bool ReadsSlot1() {
-  return (AppModel().ConversionInfo.nFilesToRead & FilesToRead::nStringLinesOfSlot1) != 0;
+bool ReadsAny(int nKinds) {
+  return (AppModel().ConversionInfo.nFilesToRead & nKinds) != 0;
 }
-bool ReadsSlot3() {
-  return (AppModel().ConversionInfo.nFilesToRead & FilesToRead::nStringLinesOfSlot3) != 0;
-}
-
-}  // namespace
 
 bool ExportDriver::ExportJob(int nJob) {
   switch (nJob) {
@@ -39,7 +32,8 @@ bool ExportDriver::ExportRoad() {
     if (!CLandXML::TagAlignments(false)) return;
     bResult = ExportAligment(1);
     const bool bStringLines = (CAligmentsDatas::GetAligmentType(1) & AligmentType::nStrLn) != 0;
-    if (ReadsSlot1() || (ReadsSlot3() && bStringLines)) {
+    if (ReadsAny(FilesToRead::nStringLinesOfSlot1) ||
+        (ReadsAny(FilesToRead::nStringLinesOfSlot3) && bStringLines)) {
       ExportLayers({{LayerOfRoad(), m_Window.ctlImporting.GetText("PAGE1")}});
     }
     CLandXML::TagAlignments(true);
@@ -63,7 +57,8 @@ bool ExportDriver::ExportRailSingle() {
     if (!CLandXML::TagAlignments(false)) return;
     bResult = ExportAligment(1);
     const int nType = CAligmentsDatas::GetAligmentType(1);
-    if (!ReadsSlot1() && (nType & AligmentType::nCr) && !(nType & AligmentType::nSup)) {
+    if (!ReadsAny(FilesToRead::nStringLinesOfSlot1) && (nType & AligmentType::nCr) &&
+        !(nType & AligmentType::nSup)) {
       Trace(" !!Export rail with cross secction are not implemented in this version!!");
     } else {
       ExportLayers({{LayerOfSingleTrack(), m_Window.ctlImporting.GetText("PAGE1")}});
@@ -77,7 +72,7 @@ bool ExportDriver::ExportRailDouble() {
   bool bResult = false;
   Guard("ExportRailDouble", [&] {
     if (!CLandXML::TagAlignments(false)) return;
-    const int nWanted = ReadsSlot1() ? AligmentType::nStrLn : AligmentType::nHz;
+    const int nWanted = ReadsAny(FilesToRead::nStringLinesOfSlot1) ? AligmentType::nStrLn : AligmentType::nHz;
     for (int nAligment = 1; nAligment <= 3; ++nAligment) {
       if (CAligmentsDatas::GetAligmentType(nAligment) & nWanted) bResult = ExportAligment(nAligment);
     }

@@ -18,6 +18,9 @@ namespace vrek {
 
 class frmWizard;
 
+/// Whether the run reads one of these kinds of input (bits of FilesToRead).
+bool ReadsAny(int nKinds);
+
 class ExportDriver {
  public:
   explicit ExportDriver(frmWizard& Window) : m_Window(Window) {}

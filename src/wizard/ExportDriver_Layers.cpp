@@ -10,10 +10,6 @@
 namespace vrek {
 namespace {
 
-bool ReadsSlot1() {
-  return (AppModel().ConversionInfo.nFilesToRead & FilesToRead::nStringLinesOfSlot1) != 0;
-}
-
 std::string Or(std::string sText, std::string_view sFallback) {
   return sText.empty() ? std::string(sFallback) : sText;
 }
@@ -62,7 +58,7 @@ bool ExportDriver::RailsChosen(int nPage) const {
 
 ExportDriver::TLayer ExportDriver::LayerOfSingleTrack() const {
   const auto& Chosen = m_Window.ctlSelectStrLn;
-  if (!ReadsSlot1()) {
+  if (!ReadsAny(FilesToRead::nStringLinesOfSlot1)) {
     const auto sAxis = m_Window.ctlFiles.GetName(1, 1);
     if (CAligmentsDatas::GetAligmentType(1) & AligmentType::nSup) return {{"Left", sAxis, "Right"}, 1, {1}};
     return {{sAxis}, 0, {-1}};
@@ -77,7 +73,7 @@ ExportDriver::TLayer ExportDriver::LayerOfTrack(int nTrack) const {
   const auto& Files = m_Window.ctlFiles;
   const auto& Chosen = m_Window.ctlSelectStrLn;
   const std::string sLeft = nTrack == 2 ? "Left_L" : "Left_R", sRight = nTrack == 2 ? "Right_L" : "Right_R";
-  if (!ReadsSlot1()) {
+  if (!ReadsAny(FilesToRead::nStringLinesOfSlot1)) {
     if (CAligmentsDatas::GetAligmentType(nTrack) & AligmentType::nSup) {
       return {{sLeft, Files.GetName(nTrack, 1), sRight, Files.GetName(1, 1)}, 1, {1, 3}};
     }
@@ -96,7 +92,7 @@ ExportDriver::TLayer ExportDriver::LayerOfTrack(int nTrack) const {
 ExportDriver::TLayer ExportDriver::LayerOfRoad() const {
   TLayer Layer;
   const auto& StrLn = CAligmentsDatas::GetAligmentStrLn(1);
-  if (ReadsSlot1()) {
+  if (ReadsAny(FilesToRead::nStringLinesOfSlot1)) {
     Layer.aExcluded = {-1};
   } else {
     Layer.aNames.push_back(m_Window.ctlFiles.GetName(1, 1));
@@ -105,7 +101,8 @@ ExportDriver::TLayer ExportDriver::LayerOfRoad() const {
   for (int i = 1; i <= StrLn.nCount; ++i) {
     const auto& Line = StrLn.Lines.at(static_cast<std::size_t>(i));
     if (!Line.bExported) continue;
-    if (ReadsSlot1() && i == m_Window.ctlSelectStrLn.GetSelectedItemData(1, 1)) {
+    if (ReadsAny(FilesToRead::nStringLinesOfSlot1) &&
+        i == m_Window.ctlSelectStrLn.GetSelectedItemData(1, 1)) {
       Layer.nCentre = static_cast<int>(Layer.aNames.size());
     }
     Layer.aNames.push_back(Line.sName);

@@ -13,10 +13,6 @@
 namespace vrek {
 namespace {
 
-bool ReadsStringLines(int nBits) {
-  return (AppModel().ConversionInfo.nFilesToRead & nBits) != 0;
-}
-
 void SetRange(ctlExporting& Page, const THzElements& aHz) {
   const auto& Last = Checked::At(aHz, UpperBound(aHz));
   Page.SetChainageStart(Checked::At(aHz, 1).dChainage);
@@ -61,15 +57,15 @@ bool clsWizard::IntroPageExporting() {
     const bool bThirdSlot = bRoad && m_Window.ctlFiles.IsSelected(1, 3);
     Page.ClearLayers();
     Page.SetLayersVisible(false);
-    if (ReadsStringLines(FilesToRead::nStringLinesOfSlot1)) {
+    if (ReadsAny(FilesToRead::nStringLinesOfSlot1)) {
       SetRange(Page, NamedStringLine(m_Window.ctlFiles).Hz);
       if (bRoad) OfferStringLines();
       return true;
     }
     SetRange(Page, FirstHz());
-    if (bThirdSlot && ReadsStringLines(FilesToRead::nCrossSections)) {
+    if (bThirdSlot && ReadsAny(FilesToRead::nCrossSections)) {
       OfferLayers(Page);
-    } else if (bThirdSlot && ReadsStringLines(FilesToRead::nStringLinesOfSlot3)) {
+    } else if (bThirdSlot && ReadsAny(FilesToRead::nStringLinesOfSlot3)) {
       OfferStringLines();
     }
     return true;
@@ -101,7 +97,7 @@ void clsWizard::StoreSelection() {
 bool clsWizard::ExitPageExporting() {
   const int nJob = m_Window.ctlJobType.JobType();
   if (nJob == eRoad && m_Window.ctlExporting.LayersVisible() &&
-      ReadsStringLines(FilesToRead::nStringLinesOfSlot1 | FilesToRead::nStringLinesOfSlot3)) {
+      ReadsAny(FilesToRead::nStringLinesOfSlot1 | FilesToRead::nStringLinesOfSlot3)) {
     StoreSelection();
   }
   LayOutResultRows();
