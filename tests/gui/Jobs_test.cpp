@@ -1,5 +1,6 @@
 // Whole jobs from the first page to the written file, by mouse and keys.
 #include <QDesktopServices>
+#include <QListWidget>
 #include <QTreeWidget>
 #include <QUrl>
 
@@ -121,6 +122,26 @@ TEST_F(Jobs, ComeBackFromTheResultAsTheyWere) {
   EXPECT_TRUE(Run.Find("cmdCancel")->isEnabled());
   Run.Click("cmdBack");
   EXPECT_EQ(Run.Find<QLabel>("lblTitle")->text(), "Importing");
+}
+
+// A name that breaks the document's form is told where the result is looked at, and only there.
+TEST_F(Jobs, TellOfANameThatBreaksTheDocument) {
+  for (const char* sName : {"Plain", "Cut & cover"}) {
+    Model.ConversionInfo.sJobName = sName;
+    WizardRun Run(Platform, Model, nAllJobs);
+    Run.Click("optDesign2");
+    Run.Click("cmdNext");
+    Run.Type("txtFileName0", QString(VREK_GOLDEN_CASES) + "/via_unica_8km/Vía única.plt");
+    for (int n = 0; n < 4; ++n) Run.Click("cmdNext");
+    ASSERT_EQ(Run.Wizard.CurrentPage(), ePageResult);
+    QStringList aTold;
+    if (Run.IsOnShow("lstWarnings")) {
+      auto* pList = Run.Find<QListWidget>("lstWarnings");
+      for (int n = 0; n < pList->count(); ++n) aTold << pList->item(n)->text();
+    }
+    EXPECT_EQ(aTold.filter("Cut & cover").isEmpty(), std::string(sName) == "Plain")
+        << aTold.join("; ").toStdString();
+  }
 }
 
 TEST_F(Jobs, EndWithACodeOnCancel) {
