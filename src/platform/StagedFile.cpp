@@ -1,6 +1,7 @@
 #include "platform/StagedFile.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/stat.h>
 
 #include <array>
@@ -90,6 +91,22 @@ std::string CreateBeside(const fs::path& Target, mode_t nMode) {
   Raise(Error::nPathFileAccess);
 }
 
+/// Holds back the signals that end the program: a file must not be there before its path is registered.
+class SignalsHeld {
+ public:
+  SignalsHeld() {
+    sigset_t Ending;
+    ::sigemptyset(&Ending);
+    for (const int nSignal : {SIGTERM, SIGINT, SIGHUP}) ::sigaddset(&Ending, nSignal);
+    ::pthread_sigmask(SIG_BLOCK, &Ending, &m_Before);
+  }
+  SignalsHeld(const SignalsHeld&) = delete;
+  ~SignalsHeld() { ::pthread_sigmask(SIG_SETMASK, &m_Before, nullptr); }
+
+ private:
+  sigset_t m_Before{};
+};
+
 /// Waits until the disk has what was written to a path. A folder that can't be synchronised is no failure.
 void Synchronise(const std::string& sPath, bool bMustWork) {
   const Descriptor File(::open(sPath.c_str(), O_RDONLY | O_CLOEXEC));
@@ -102,7 +119,9 @@ void Synchronise(const std::string& sPath, bool bMustWork) {
 StagedFile::StagedFile(const std::string& sTarget) {
   const fs::path Target = ResolvedTarget(sTarget);
   m_sTarget = Target.string();
-  m_sPath = CreateBeside(Target, PermissionsOf(m_sTarget));
+  const mode_t nMode = PermissionsOf(m_sTarget);
+  const SignalsHeld Held;
+  m_sPath = CreateBeside(Target, nMode);
   m_nSlot = Register(m_sPath);
 }
 
