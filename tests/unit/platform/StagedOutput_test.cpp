@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include "support/OrdinaryUser.h"
 #include "support/TestApp.h"
 
 namespace vrek {
@@ -106,9 +107,9 @@ TEST_F(Staged, RefusesPathsThatCanNotBecomeADocument) {
 }
 
 TEST_F(Staged, RefusesAFileThatMayNotBeWritten) {
-  if (::geteuid() == 0) GTEST_SKIP() << "permissions don't bind this user";
   const std::string sLocked = WriteFile("locked.xml", "before");
   ::chmod(sLocked.c_str(), 0444);
+  const test::OrdinaryUser User(Directory);
   EXPECT_EQ(NumberOf([&] { Output.Create(sLocked); }), Error::nPermissionDenied);
 }
 
