@@ -1,6 +1,7 @@
 // Whole projects with one file damaged in every way that a text can be: cut off at every byte, a line lost,
 // doubled or out of its place, a field replaced by what no field should be. Each ends with a message, a
 // failure mark or a whole document.
+#include "Damages.h"
 #include "Projects.h"
 
 namespace vrek::test {
@@ -36,68 +37,16 @@ class DamagedProject : public ProjectTest, public ::testing::WithParamInterface<
   }
 };
 
-std::vector<std::string> Lines(const std::string& sBytes) {
-  std::vector<std::string> aLines;
-  for (std::size_t n = 0; n < sBytes.size();) {
-    const auto nEnd = std::min(sBytes.find('\n', n), sBytes.size() - 1) + 1;
-    aLines.push_back(sBytes.substr(n, nEnd - n));
-    n = nEnd;
-  }
-  return aLines;
-}
-
-std::string Joined(const std::vector<std::string>& aLines) {
-  std::string sBytes;
-  for (const auto& sLine : aLines) sBytes += sLine;
-  return sBytes;
-}
-
 TEST_P(DamagedProject, CutOffAtEveryByte) {
-  RunAll(
-      [](const std::string& sBytes, const auto& Try) {
-        for (std::size_t n = 0; n < sBytes.size(); ++n) Try(sBytes.substr(0, n), "byte " + std::to_string(n));
-      },
-      4);
+  RunAll(CutOffAtEveryByte, 4);
 }
 
 TEST_P(DamagedProject, LinesLostDoubledAndSwapped) {
-  RunAll(
-      [](const std::string& sBytes, const auto& Try) {
-        const auto aLines = Lines(sBytes);
-        for (std::size_t n = 0; n < aLines.size(); ++n) {
-          const auto sLine = "line " + std::to_string(n + 1);
-          const auto Here = static_cast<std::ptrdiff_t>(n);
-          auto aLost = aLines;
-          aLost.erase(aLost.begin() + Here);
-          Try(Joined(aLost), sLine + " lost");
-          auto aDoubled = aLines;
-          aDoubled.insert(aDoubled.begin() + Here, aLines[n]);
-          Try(Joined(aDoubled), sLine + " doubled");
-          if (n + 1 == aLines.size()) continue;
-          auto aSwapped = aLines;
-          std::swap(aSwapped[n], aSwapped[n + 1]);
-          Try(Joined(aSwapped), sLine + " swapped");
-        }
-      },
-      1);
+  RunAll(LinesLostDoubledAndSwapped, 1);
 }
 
 TEST_P(DamagedProject, FieldsThatAreNone) {
-  const std::string sLong(100'000, '7');
-  const auto Replace = [&](const std::string& sBytes, const auto& Try) {
-    constexpr std::string_view sEnds = ", \t\r\n<>\"=\\{}";
-    for (std::size_t n = 0; (n = sBytes.find_first_not_of(sEnds, n)) != sBytes.npos;) {
-      const auto nLength = std::min(sBytes.find_first_of(sEnds, n), sBytes.size()) - n;
-      for (const auto& sField : {std::string(), std::string("-"), std::string("1e999"), std::string("nan"),
-                                 std::string("0x10"), std::string("-1e15"), sLong}) {
-        auto sDamaged = sBytes;
-        Try(sDamaged.replace(n, nLength, sField),
-            "byte " + std::to_string(n) + ": \"" + sField.substr(0, 10) + "\"");
-      }
-      n += nLength;
-    }
-  };
-  RunAll(Replace, 5);  // no divisor of the replacements: each has its turn
+  RunAll(FieldsThatAreNone, 5);  // no divisor of the replacements: each has its turn
 }
 
 INSTANTIATE_TEST_SUITE_P(Examples, DamagedProject,
