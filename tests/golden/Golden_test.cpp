@@ -5,16 +5,14 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <clocale>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <locale>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
 #include "batch/Batch.h"
+#include "support/UsersLocale.h"
 
 namespace fs = std::filesystem;
 using nlohmann::json;
@@ -122,23 +120,11 @@ void RegisterFolder(const fs::path& Folder) {
   }
 }
 
-constexpr int nSkipped = 77;
-
-// Puts the locale of $VREK_TEST_LOCALE in place, as a toolkit does with the user's; false where there is
-// none.
-bool TakeLocale() {
-  const char* pLocale = std::getenv("VREK_TEST_LOCALE");
-  if (!pLocale) return true;
-  if (!std::setlocale(LC_ALL, pLocale)) return false;
-  std::locale::global(std::locale(pLocale));
-  return true;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
+  vrek::test::TakeUsersLocale();
   ::testing::InitGoogleTest(&argc, argv);
-  if (!TakeLocale()) return nSkipped;
   ::setenv("SOURCE_DATE_EPOCH", "1767323045", 1);
   ::setenv("TZ", "UTC", 1);
   if (argc < 2) RegisterFolder(VREK_GOLDEN_CASES);

@@ -111,7 +111,8 @@ double Plain(std::string_view sText) {
     if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;
     if (PassDigits()) nEnd = i;
   }
-  return std::strtod(s.substr(0, nEnd).c_str(), nullptr);
+  static const locale_t Classic = ::newlocale(LC_ALL_MASK, "C", nullptr);
+  return ::strtod_l(s.substr(0, nEnd).c_str(), nullptr, Classic);
 }
 
 std::string Digits(std::mt19937& Random, unsigned nMax) {

@@ -13,6 +13,7 @@ constexpr const char* sRule = " ====== ====== ==== ====== ====== ==== ====== ===
 // Points of a section's layer: "offset/height ...".
 std::string Points(const TCrSection& Section, int nLayer) {
   std::ostringstream Out;
+  Out.imbue(std::locale::classic());
   for (const auto& Surface : Section.Surfaces) {
     if (Surface.nLayer != nLayer) continue;
     for (const auto& Point : Surface.Points) Out << Point.dOffset << "/" << Point.dHeight << " ";
@@ -103,6 +104,7 @@ std::string SlowPoint(const std::vector<TSlowField>& c, const std::vector<TSlowF
   if (nFields >= 5 && nGroup != 1) aPairs.push_back(4);
   if (nFields >= 8 && nGroup == 3) aPairs.push_back(7);
   std::ostringstream Out;
+  Out.imbue(std::locale::classic());
   for (const std::size_t p : aPairs) {
     if (!(t[p].nEnd >= First.nStart && t[p + 1].nStart <= Last.nEnd)) continue;
     Out.str("");

@@ -8,6 +8,7 @@ using CrossSectionListing = ReaderTest;
 // A record as text: "chainage: layer offset/height ...; ..." for each section.
 std::string Text(const TCrData& Cr) {
   std::ostringstream Out;
+  Out.imbue(std::locale::classic());
   for (const auto& Section : Cr.Sections) {
     Out << Section.dChainage << ":";
     for (const auto& Surface : Section.Surfaces) {

@@ -22,6 +22,7 @@ std::vector<TPlanElement> ReadPlan(const std::filesystem::path& Path) {
   for (std::string sLine; std::getline(Stream, sLine);) {
     if (sLine.starts_with('#')) continue;
     std::istringstream Fields(sLine);
+    Fields.imbue(std::locale::classic());
     TPlanElement E;
     std::string sTurn;
     Fields >> E.sKind >> sTurn >> E.Start.dChainage >> E.Start.dX >> E.Start.dY >> E.Start.dAzimuth >>
@@ -37,6 +38,7 @@ std::vector<TPlanElement> ReadPlan(const std::filesystem::path& Path) {
 // Radius and parameter stand on the line of the point where their element ends.
 std::string AsMarkedListing(const std::vector<TPlanElement>& aPlan) {
   std::ostringstream Out;
+  Out.imbue(std::locale::classic());
   Out << std::fixed << "*PLT\n";
   for (std::size_t i = 0; i < aPlan.size(); ++i) {
     const auto& [sKind, Point, dUnused] = aPlan[i];

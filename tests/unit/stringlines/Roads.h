@@ -1,13 +1,14 @@
 // Roads and point lists for the tests of the stringline engine.
 #pragma once
 
-#include <cstdio>
+#include <algorithm>
 #include <initializer_list>
 #include <random>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "base/ST.h"
 #include "stringlines/CCrSec.h"
 #include "stringlines/PointModel.h"
 
@@ -21,12 +22,11 @@ inline CCrSec::TPoints List(const std::string& sText) {
   for (std::string sWord; Words >> sWord;) {
     TCrPoint& Point = aPoints.emplace_back();
     const auto nNumber = sWord.find_first_not_of("+-.0123456789");
-    Point.dOffset = std::stod(sWord.substr(0, nNumber));
+    Point.dOffset = ST::LeadingNumber(sWord);
     for (auto n = nNumber; n < sWord.size(); ++n) {
       if (sWord[n] == '/') {
-        std::size_t nLength = 0;
-        Point.dHeight = std::stod(sWord.substr(n + 1), &nLength);
-        n += nLength;
+        Point.dHeight = ST::LeadingNumber(std::string_view(sWord).substr(n + 1));
+        n = std::min(sWord.find_first_not_of("+-.0123456789", n + 1), sWord.size()) - 1;
       } else if (sWord[n] == '>') {
         Point.sLink = {static_cast<std::uint32_t>(sWord[++n])};
       } else if (sWord[n] == '*') {
@@ -41,16 +41,16 @@ inline CCrSec::TPoints List(const std::string& sText) {
 
 /// The text that List reads.
 inline std::string Show(const CCrSec::TPoints& aPoints) {
-  std::string sText;
+  std::ostringstream Text;
+  Text.imbue(std::locale::classic());
   for (const TCrPoint& Point : aPoints) {
-    char sNumber[40];
-    std::snprintf(sNumber, sizeof sNumber, Point.dHeight != 0 ? "%g/%g" : "%g", Point.dOffset, Point.dHeight);
-    sText += (sText.empty() ? "" : " ") + std::string(sNumber);
-    if (!Point.sCode.empty()) sText += static_cast<char>(Point.sCode.nIndex);
-    if (!Point.sLink.empty()) sText += std::string(">") + static_cast<char>(Point.sLink.nIndex);
-    if (Point.bPhantom) sText += '*';
+    Text << (&Point == aPoints.data() ? "" : " ") << Point.dOffset;
+    if (Point.dHeight != 0) Text << '/' << Point.dHeight;
+    if (!Point.sCode.empty()) Text << static_cast<char>(Point.sCode.nIndex);
+    if (!Point.sLink.empty()) Text << '>' << static_cast<char>(Point.sLink.nIndex);
+    if (Point.bPhantom) Text << '*';
   }
-  return sText;
+  return Text.str();
 }
 
 /// The four layers that every reader makes.

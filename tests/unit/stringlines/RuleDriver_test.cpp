@@ -119,8 +119,7 @@ TEST_F(RuleDriver, CodesEveryPointAndNeverTakesUpALineThatStopped) {
     }
     for (const TCrLayer& Layer : Cr.Layers) {
       for (int n = 1; n < Layer.aCodes.size(); ++n) {
-        ASSERT_LE(std::stod(std::string(Layer.aCodes.TextAt(n - 1))),
-                  std::stod(std::string(Layer.aCodes.TextAt(n))));
+        ASSERT_LE(ST::LeadingNumber(Layer.aCodes.TextAt(n - 1)), ST::LeadingNumber(Layer.aCodes.TextAt(n)));
       }
     }
   }

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "base/FormatReal.h"
 #include "shell/CommandLine.h"
 #include "shell/ProcessEnd.h"
 #include "support/TestApp.h"
@@ -65,7 +66,7 @@ class WizardTest : public AppTest {
   // A straight plan of 100 m eastwards from 0 with a constant grade: small enough to work out by hand.
   std::string Plan(const std::string& sName, double dGap = 0) const {
     return WriteFile(sName, CrLf("*PLT\n0.000,1000.0000,2000.0000,100.000000,0.000,0.0000\n60.000," +
-                                 std::to_string(1060 + dGap) +
+                                 FormatReal(1060 + dGap, 6) +
                                  ",2000.0000,100.000000,0.000,0.0000\n100.000,1100.0000,2000.0000,"
                                  "100.000000,0.000,0.0000\n"));
   }
