@@ -8,6 +8,7 @@
 #include "design_data/CAligmentsDatas.h"
 #include "geometry/AligmentIndex.h"
 #include "rail_tunnel/clsSuperelevation.h"
+#include "shell/RepeatedFailures.h"
 
 namespace vrek::CAligmentsDatas {
 namespace {
@@ -109,6 +110,7 @@ bool GenerateVtAligment(int nTarget, int nSource, int nSup, double dStep, IProgr
   aVt.reserve(CountSamples(aHz, dStep) + 1);
   aVt.emplace_back();
   // 4. the samples, afresh at each element
+  const CRepeatedFailures OnceEach;
   for (;;) {
     Progress.SetValue(i);
     if (Progress.CancelPressed()) return false;

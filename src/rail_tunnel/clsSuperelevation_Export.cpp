@@ -19,6 +19,7 @@
 #include "rail_tunnel/TrackAxis.h"
 #include "rail_tunnel/clsSuperelevation.h"
 #include "shell/ErrHandler.h"
+#include "shell/RepeatedFailures.h"
 
 namespace vrek {
 namespace {
@@ -125,6 +126,7 @@ void clsSuperelevation::ExportToLandXml(double& rChainageStart, double& rChainag
     // 8. the sections
     const CTrackAxis Axis(nAligment, sStringLine);
     TRails Rails;
+    const CRepeatedFailures OnceEach;
     for (int i = Range.nFirst; i <= Range.nLast; ++i) {
       const double s = Checked::At(aChainages, i);
       if (!CLandXML::TagCrossSect(false, FormatReal(s, 6), sCrossSectName)) continue;

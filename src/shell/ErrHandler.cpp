@@ -11,6 +11,7 @@
 #include "base/Configuration.h"
 #include "platform/Descriptor.h"
 #include "shell/AppModel.h"
+#include "shell/RepeatedFailures.h"
 #include "shell/Services.h"
 
 namespace vrek {
@@ -92,6 +93,7 @@ void PrintLastResort(const Failure& Error) noexcept {
 }  // namespace
 
 void ErrHandler(const Failure& Error) {
+  if (!CRepeatedFailures::IsNews(Error)) return;
   if (!HasAppModel()) {
     PrintLastResort(Error);
   } else if (const std::string_view sToken = TokenOf(Error.nNumber); !sToken.empty()) {

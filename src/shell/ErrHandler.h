@@ -10,8 +10,9 @@
 
 namespace vrek {
 
-/// Shows a failure in a message box or logs it, by its number. Never throws, except when the log can't be
-/// opened: then the failure of that. Without an application object the text goes to stderr.
+/// Shows a failure in a message box or logs it, by its number; in a loop that CRepeatedFailures watches,
+/// once. Never throws, except when the log can't be opened: then the failure of that. Without an application
+/// object the text goes to stderr.
 void ErrHandler(const Failure& Error);
 
 /// Appends an error entry of two lines to the log. A log that can't be opened is a failure.

@@ -3,6 +3,7 @@
 
 #include "base/Checked.h"
 #include "base/FormatReal.h"
+#include "shell/RepeatedFailures.h"
 #include "stringlines/CCrSec.h"
 #include "stringlines/Rules.h"
 
@@ -65,6 +66,7 @@ void ApplyRules(TCrData& Cr, std::string_view sLines, IProgress& Progress) {
     const auto aTakePart = LayersThatTakePart(Cr, sLines);
     const int nLast = static_cast<int>(Cr.Sections.size()) - 1;
     Progress.SetRanges(0, nLast);
+    const CRepeatedFailures OnceEach;
     for (int i = 1; i <= nLast; ++i) {
       const TCrSection& Section = Checked::At(Cr.Sections, i);
       Progress.SetValue(i);

@@ -1,4 +1,5 @@
-// Every way in which a text can be damaged. Each routine hands all its damages to Try(damaged text, what was done).
+// Every way in which a text can be damaged. Each routine hands all its damages to Try(damaged text, what was
+// done).
 #pragma once
 
 #include <algorithm>

@@ -86,6 +86,13 @@ TEST_F(TypedNumbers, InTheRangeEndSoon) {
   }
 }
 
+// A plan of impossible numbers fails each of the 50,000 samples of a generated profile in two routines.
+TEST_F(TypedNumbers, ThatFailEverySampleAreToldOnce) {
+  const auto Outcome = Run(fuzz::ReadProject(ReadBytes(VREK_PROJECTS "/found-every-sample-fails")));
+  EXPECT_LT(Outcome.aMessages.size(), 10u);
+  EXPECT_LT(std::filesystem::file_size(Folder / "KTVO_Converters.log"), 1000u);
+}
+
 TEST_F(TypedNumbers, RefusesAGenerationThatWouldNeverEnd) {
   auto Project = ReadExample("double");
   Project.aFiles[0] = Replaced(Project.aFiles[0], "*PLT\r\n", "*PLT\r\n-1e12,0,0,0,0,0\r\n");

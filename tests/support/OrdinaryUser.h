@@ -1,4 +1,5 @@
-// Permissions bind everybody but root, and builds in containers run as root: such a test lays root down for a while.
+// Permissions bind everybody but root, and builds in containers run as root: such a test lays root down for a
+// while.
 #pragma once
 
 #include <unistd.h>
@@ -8,13 +9,14 @@
 
 namespace vrek::test {
 
-/// While it lives, the process acts as a user without rights of its own; nothing changes for an ordinary user.
-/// The folder is handed to that user first, so that the test may go on writing there. Ends the test program where
-/// root can't be laid down.
+/// While it lives, the process acts as a user without rights of its own; nothing changes for an ordinary
+/// user. The folder is handed to that user first, so that the test may go on writing there. Ends the test
+/// program where root can't be laid down.
 class OrdinaryUser {
  public:
   explicit OrdinaryUser(const std::filesystem::path& Folder) : m_bRoot(::geteuid() == 0) {
-    if (m_bRoot && (::chown(Folder.c_str(), nNobody, -1u) != 0 || ::setresuid(nNobody, nNobody, 0) != 0)) std::abort();
+    if (m_bRoot && (::chown(Folder.c_str(), nNobody, -1u) != 0 || ::setresuid(nNobody, nNobody, 0) != 0))
+      std::abort();
   }
   OrdinaryUser(const OrdinaryUser&) = delete;
   OrdinaryUser& operator=(const OrdinaryUser&) = delete;

@@ -1,7 +1,10 @@
 #include "shell/ErrHandler.h"
 
+#include <gmock/gmock.h>
+
 #include <stdexcept>
 
+#include "shell/RepeatedFailures.h"
 #include "support/TestApp.h"
 
 namespace vrek {
@@ -86,6 +89,29 @@ TEST_F(ErrHandlerTest, GuardNamesTheRoutineAndGivesItsFallback) {
   EXPECT_EQ(Platform.aBoxes[0].sText, "Unhandler Error in Reader\r\nType mismatch");
   EXPECT_EQ(Platform.aBoxes[1].sText, "Unhandler Error in Reader\r\nOut of memory");
   EXPECT_EQ(Platform.aBoxes[2].sText, "Unhandler Error in Reader\r\nInvalid procedure call or argument");
+}
+
+TEST_F(ErrHandlerTest, TellsARepeatedFailureOnceWhileALoopIsWatched) {
+  const auto Fail = [](const char* sSource) { Guard(sSource, [] { Raise(Error::nOverflow); }); };
+  {
+    const CRepeatedFailures OnceEach;
+    for (int i = 0; i < 4; ++i) {
+      const CRepeatedFailures Inner;
+      Fail("Sample");
+    }
+    Fail("Other");
+    EXPECT_EQ(Platform.aBoxes.size(), 2u);
+  }
+  EXPECT_THAT(Log(), ::testing::EndsWith("in Other\r\nMsg Overflow in Sample: 3 times more\r\n"));
+  Fail("Other");
+  EXPECT_EQ(Platform.aBoxes.size(), 3u) << "afterwards each is told again";
+
+  Platform.sTempDirectory = (Directory / "missing/").string();
+  EXPECT_NO_THROW({
+    const CRepeatedFailures OnceEach;
+    EXPECT_ANY_THROW(Fail("Sample")) << "no log";
+    Fail("Sample");
+  });
 }
 
 TEST_F(ErrHandlerTest, TopLevelReportsWhateverRisesToIt) {
