@@ -50,7 +50,7 @@ TEST_F(ManyProjects, AProjectThatIsKilledIsToldApart) {
   const auto sLong = Project("road", "long");
   LongRoad("long/Axis 1.trv");
   const auto sGood = Project("rail", "good");
-  const auto Result = Run({"run", "--jobs", "2", "--json", sLong, sGood}, "ulimit -f 64;");
+  const auto Result = Run({"run", "--jobs", "2", "--json", sLong, sGood}, "ulimit -f 4000;");
   EXPECT_EQ(Result.nStatus, 3);
   EXPECT_EQ(Outcomes(Result.sOut), "- rail+ ");
   EXPECT_NE(Result.sErr.find("long/job.toml: killed by signal"), std::string::npos) << Result.sErr;
