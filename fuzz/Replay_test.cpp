@@ -11,6 +11,11 @@
 #include "robust/Damages.h"
 
 namespace vrek::fuzz {
+
+static void PrintTo(const TTarget& Target, std::ostream* pOut) {
+  *pOut << Target.sName;
+}
+
 namespace {
 
 namespace fs = std::filesystem;

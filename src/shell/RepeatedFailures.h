@@ -12,9 +12,9 @@
 namespace vrek {
 
 /// While one of these lives, ErrHandler shows and logs a failure the first time only; the same failure again
-/// (number, source and description) is counted. Its end logs how often each came again. For loops over samples
-/// or rows, of which one fault of a file can fail a million: nobody closes that many boxes, and no log holds them.
-/// One inside another leaves the work to the outer one.
+/// (number, source and description) is counted. Its end logs how often each came again. For loops over
+/// samples or rows, of which one fault of a file can fail a million: nobody closes that many boxes, and no
+/// log holds them. One inside another leaves the work to the outer one.
 class CRepeatedFailures {
  public:
   CRepeatedFailures();

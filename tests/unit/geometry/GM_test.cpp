@@ -38,6 +38,7 @@ TEST(Angles, ArcSinOfMinusOneTurnsThreeQuarters) {
 struct TArc {
   const char* sLabel;
   double dRadius, dLength, dX, dY, dAzimuth;
+  friend void PrintTo(const TArc& Case, std::ostream* pOut) { *pOut << Case.sLabel; }
 };
 
 class Arcs : public ::testing::TestWithParam<TArc> {};

@@ -19,6 +19,7 @@ struct TCase {
   std::string sBox;  // "" for none
   EIcon eIcon;
   bool bLogged;
+  friend void PrintTo(const TCase& Case, std::ostream* pOut) { *pOut << Case.pLabel; }
 };
 
 class ErrHandlerTable : public AppTest, public ::testing::WithParamInterface<TCase> {};

@@ -17,6 +17,7 @@ struct TRuleCase {
   const char* sLast;
   const char* sThis;
   const char* sExpected;
+  friend void PrintTo(const TRuleCase& Case, std::ostream* pOut) { *pOut << Case.sName; }
 };
 
 std::string NameOf(const ::testing::TestParamInfo<TRuleCase>& Info) {

@@ -17,6 +17,7 @@ struct TProximityCase {
   const char* sLast;
   const char* sThis;
   const char* sExpected;
+  friend void PrintTo(const TProximityCase& Case, std::ostream* pOut) { *pOut << Case.sName; }
 };
 
 class Proximity : public ::testing::TestWithParam<TProximityCase> {};

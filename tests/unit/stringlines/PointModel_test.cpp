@@ -28,6 +28,7 @@ struct TNearestCase {
   double dOffset;
   bool bWithContinue, bSameSide;
   TIndexes aExpected;
+  friend void PrintTo(const TNearestCase& Case, std::ostream* pOut) { *pOut << Case.sName; }
 };
 
 class FindNearestTest : public ::testing::TestWithParam<TNearestCase> {};

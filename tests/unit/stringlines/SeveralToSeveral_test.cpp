@@ -24,6 +24,7 @@ struct TMatchCase {
   const char* sLast;
   const char* sThis;
   const char* sExpected;
+  friend void PrintTo(const TMatchCase& Case, std::ostream* pOut) { *pOut << Case.sName; }
 };
 
 class Matching : public ::testing::TestWithParam<TMatchCase> {};

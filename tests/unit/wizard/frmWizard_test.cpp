@@ -61,6 +61,9 @@ struct TMove {
   bool bBack, bCancel;  // enabled then
   const char* sNext;
   int nStop;  // code of the process, -1: it lives on
+  friend void PrintTo(const TMove& Case, std::ostream* pOut) {
+    *pOut << Case.cButton << " on page " << Case.nFrom;
+  }
 };
 
 class Moves : public Wizard, public ::testing::WithParamInterface<TMove> {};
