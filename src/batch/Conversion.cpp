@@ -59,6 +59,7 @@ class CConversion {
   void ChooseJob();
   bool ChooseFiles();
   void KeepFault();
+  void KeepUnused();
   void TypeSlots(const TAligmentFiles& Files);
   void TypePreferences();
   void TypeExport();
@@ -132,7 +133,10 @@ bool CConversion::ChooseFiles() {
     TypeSlots(m_Job.aFiles[static_cast<std::size_t>(nPage - 1)]);
   }
   m_Window.cmdNext_Click();
-  if (Page() != ePageFiles) return true;
+  if (Page() != ePageFiles) {
+    KeepUnused();
+    return true;
+  }
   m_Outcome.sFault = std::to_string(Files.FocusPage) + "," + std::to_string(Files.FocusFile);
   KeepFault();
   return false;
@@ -146,6 +150,21 @@ void CConversion::KeepFault() {
   const auto sSlot = Files.frFiles.Caption + ", " + Slot.chkFile.Caption + ": ";
   m_Outcome.sFaultText =
       sSlot + (Slot.Filename().empty() ? "no file is given" : "can't open " + Slot.Filename());
+}
+
+// A person sees that a slot is grey; whoever wrote a command line doesn't.
+void CConversion::KeepUnused() {
+  const auto& Files = m_Window.ctlFiles;
+  for (int nPage = 1; nPage <= Files.PagesTot(); ++nPage) {
+    const auto& Given = m_Job.aFiles[static_cast<std::size_t>(nPage - 1)];
+    const std::string* aPaths[] = {&Given.sHorizontal, &Given.sVertical, &Given.sThird, &Given.sCant};
+    for (int nFile = 2; nFile <= 4; ++nFile) {
+      const auto& sPath = *aPaths[nFile - 1];
+      if (sPath.empty() || Files.IsSelected(nPage, nFile)) continue;
+      const auto sNeeds = nFile == 2 ? "a horizontal alignment" : "a vertical alignment";
+      m_Outcome.aMessages.push_back({false, "", sPath + " is not used: it needs " + sNeeds, true});
+    }
+  }
 }
 
 void CConversion::TypePreferences() {

@@ -52,6 +52,14 @@ TEST_F(Command, ConvertsEveryJob) {
   }
 }
 
+TEST_F(Command, WarnsOfAFileThatIsNotUsed) {
+  const auto sCant = Example("rail/Track cant.xml");
+  const auto Result = Run({"rail", "--hz", Example("rail/Track.plt"), "--cant", sCant, "-o", "out.xml"});
+  EXPECT_EQ(Result.nStatus, 0);
+  EXPECT_TRUE(Has(Result.sErr, "warning: " + sCant + " is not used: it needs a vertical alignment"))
+      << Result.sErr;
+}
+
 TEST_F(Command, TellsWrongUsage) {
   Write("unknown.toml", "job = \"rail\"\noutput = \"o.xml\"\n[alignment]\nhorizontal = \"a\"\nhorizon = 1\n");
   Write("badjob.toml", "job = \"train\"\n");
