@@ -74,10 +74,8 @@ int RunInProcesses(const TArguments& Arguments, std::ostream& Out, std::ostream&
   }
 }
 
-}  // namespace
-
-int RunBatch(int argc, const char* const* argv, std::ostream& Out, std::ostream& Err,
-             const std::string& sProgramDirectory) {
+int Run(int argc, const char* const* argv, std::ostream& Out, std::ostream& Err,
+        const std::string& sProgramDirectory) {
   int nStatus = eConverted;
   const auto Arguments = ReadArguments(argc, argv, Out, Err, nStatus);
   if (!Arguments) return nStatus;
@@ -91,8 +89,19 @@ int RunBatch(int argc, const char* const* argv, std::ostream& Out, std::ostream&
   for (const auto& Job : Arguments->aJobs) {
     nStatus = std::max(nStatus, RunOne(Job, Options, Arguments->bQuiet, aOutcomes, Err));
   }
-  if (Arguments->bJson) Out << OutcomesAsJson(aOutcomes, Arguments->bManyJobs) << std::flush;
+  if (Arguments->bJson) Out << OutcomesAsJson(aOutcomes, Arguments->bManyJobs);
   return nStatus;
+}
+
+}  // namespace
+
+int RunBatch(int argc, const char* const* argv, std::ostream& Out, std::ostream& Err,
+             const std::string& sProgramDirectory) {
+  const int nStatus = Run(argc, argv, Out, Err, sProgramDirectory);
+  if (Out.flush()) return nStatus;
+  // Whoever reads the outcome must not take half of it for the whole.
+  Err << "vrek-batch: standard output could not be written\n";
+  return std::max(nStatus, static_cast<int>(eNotWritten));
 }
 
 }  // namespace vrek::batch

@@ -4,6 +4,7 @@
 
 #include "batch/Batch.h"
 #include "platform/StagedFile.h"
+#include "platform/StandardStreams.h"
 
 namespace {
 
@@ -28,6 +29,7 @@ void CatchSignals() {
 }  // namespace
 
 int main(int argc, char** argv) {
+  vrek::OpenClosedStandardStreams();
   CatchSignals();
   return vrek::batch::RunBatch(argc, argv, std::cout, std::cerr);
 }

@@ -5,6 +5,7 @@
 #include "platform/CommandLineText.h"
 #include "platform/IniSettings.h"
 #include "platform/PosixPlatform.h"
+#include "platform/StandardStreams.h"
 #include "shell/AppModel.h"
 #include "shell/CommandLine.h"
 #include "shell/ErrHandler.h"
@@ -59,6 +60,7 @@ int Run(TSurroundings& Surroundings, const std::string& sCommandLine) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  OpenClosedStandardStreams();
   int nExit = nFailed;
   TSurroundings Surroundings(argv[0]);
   vrek::TopLevel([&] { nExit = Run(Surroundings, CommandLineText(argc, argv)); });

@@ -52,6 +52,13 @@ TEST_F(Command, ConvertsEveryJob) {
   }
 }
 
+TEST_F(Command, AnOutcomeThatCanNotBeWrittenIsAFailure) {
+  const auto Result = Run({"run", "--json", Project("rail", "a")}, "exec 1>/dev/full;");
+  EXPECT_EQ(Result.nStatus, 3);
+  EXPECT_TRUE(Has(Result.sErr, "standard output could not be written")) << Result.sErr;
+  EXPECT_TRUE(Read(Directory / "a/rail.xml").ends_with("</LandXML>\r\n"));
+}
+
 TEST_F(Command, WarnsOfAFileThatIsNotUsed) {
   const auto sCant = Example("rail/Track cant.xml");
   const auto Result = Run({"rail", "--hz", Example("rail/Track.plt"), "--cant", sCant, "-o", "out.xml"});
