@@ -10,6 +10,7 @@
 #include "shell/AppModel.h"
 #include "shell/CommandLine.h"
 #include "shell/ErrHandler.h"
+#include "shell/Phrase.h"
 #include "wizard/PreviewOf.h"
 #include "wizard/WarningsOf.h"
 #include "wizard/frmWizard.h"
@@ -161,8 +162,10 @@ void CConversion::KeepUnused() {
     for (int nFile = 2; nFile <= 4; ++nFile) {
       const auto& sPath = *aPaths[nFile - 1];
       if (sPath.empty() || Files.IsSelected(nPage, nFile)) continue;
-      const auto sNeeds = nFile == 2 ? "a horizontal alignment" : "a vertical alignment";
-      m_Outcome.aMessages.push_back({false, "", sPath + " is not used: it needs " + sNeeds, true});
+      auto sText = nFile == 2
+                       ? Phrase("WARN_NO_PLAN", "%1 is not used: it needs a horizontal alignment", {sPath})
+                       : Phrase("WARN_NO_PROFILE", "%1 is not used: it needs a vertical alignment", {sPath});
+      m_Outcome.aMessages.push_back({false, "", std::move(sText), true});
     }
   }
 }

@@ -6,15 +6,12 @@
 
 #include "base/CodePage.h"
 #include "base/FormatReal.h"
+#include "shell/Phrase.h"
 
 namespace vrek::Warnings {
 namespace {
 
 constexpr double dHalfStep = 0.0005;  // metres: half the last decimal that the range's boxes show
-
-std::string Quoted(std::string_view sText) {
-  return "\"" + std::string(sText) + "\"";
-}
 
 std::string Metres(double dValue) {
   return FormatReal(dValue, 3);
@@ -29,12 +26,12 @@ bool BreaksMarkup(std::string_view sText) {
 
 // "" when the name reaches the document as it is.
 std::string Harm(const TName& Name) {
-  if (BreaksMarkup(Name.sText)) return "the document isn't well-formed XML";
+  if (BreaksMarkup(Name.sText)) return Phrase("WARN_NAME_MARKUP", "the document isn't well-formed XML");
   if (CodePage::IsAscii(Name.sText)) return {};
   if (CodePage::ToUtf8(CodePage::FromUtf8(Name.sText)) != Name.sText) {
-    return "letters that the document can't hold stand as question marks";
+    return Phrase("WARN_NAME_LETTERS", "letters that the document can't hold stand as question marks");
   }
-  return Name.bEncoded ? "" : "the document isn't valid UTF-8";
+  return Name.bEncoded ? "" : Phrase("WARN_NAME_UTF8", "the document isn't valid UTF-8");
 }
 
 // "1.000, 2.000 and 3 more"
@@ -44,13 +41,13 @@ std::string List(const std::vector<double>& aValues) {
   for (std::size_t n = 0; n < std::min(aValues.size(), nShown); ++n) {
     sOut += (n > 0 ? ", " : "") + Metres(aValues[n]);
   }
-  if (aValues.size() > nShown) sOut += " and " + std::to_string(aValues.size() - nShown) + " more";
-  return sOut;
+  if (aValues.size() <= nShown) return sOut;
+  return Phrase("WARN_MORE", "%1 and %2 more", {sOut, std::to_string(aValues.size() - nShown)});
 }
 
+// Where the elements start that the range leaves out.
 template <class TElements>
-TTexts OfElements(std::string_view sWhat, std::string_view sName, const TElements& aElements,
-                  const TRange& Range) {
+std::vector<double> LeftOut(const TElements& aElements, const TRange& Range) {
   std::vector<double> aLeftOut;
   for (std::size_t n = 1; n < aElements.size(); ++n) {
     const auto& Element = aElements[n];
@@ -58,10 +55,17 @@ TTexts OfElements(std::string_view sWhat, std::string_view sName, const TElement
     const bool bBefore = dEnd <= Range.dStart && n + 1 < aElements.size();
     if (bBefore || Element.dChainage > Range.dEnd) aLeftOut.push_back(Element.dChainage);
   }
-  if (aLeftOut.empty()) return {};
-  return {"The " + std::string(sWhat) + " " + Quoted(sName) + " has elements outside the range " +
-          Metres(Range.dStart) + " to " + Metres(Range.dEnd) + " that was offered; they are left out: " +
-          List(aLeftOut) + ". Widen the range if they are needed."};
+  return aLeftOut;
+}
+
+std::string CountOf(EChainages eWhat, std::size_t n) {
+  const auto sCount = std::to_string(n);
+  if (eWhat == eSections) {
+    return n == 1 ? Phrase("WARN_SECTION", "1 cross-section")
+                  : Phrase("WARN_SECTIONS", "%1 cross-sections", {sCount});
+  }
+  return n == 1 ? Phrase("WARN_STATION", "1 cant station")
+                : Phrase("WARN_STATIONS", "%1 cant stations", {sCount});
 }
 
 }  // namespace
@@ -72,13 +76,13 @@ TTexts OfNames(const std::vector<TName>& aNames) {
   for (const auto& Name : aNames) {
     const auto sHarm = Harm(Name);
     if (sHarm.empty() || !Told.insert(Name.sText + "\n" + sHarm).second) continue;
-    aOut.push_back("The name " + Quoted(Name.sText) + " stands in the document as " + Name.sPlace + ": " +
-                   sHarm + ". To avoid it, " + Name.sWhatToDo + ".");
+    aOut.push_back(Phrase("WARN_NAME", "The name \"%1\" stands in the document as %2: %3. To avoid it, %4.",
+                          {Name.sText, Name.sPlace, sHarm, Name.sWhatToDo}));
   }
   return aOut;
 }
 
-TTexts OfChainages(std::string_view sWhat, std::string_view sName, const std::vector<double>& aChainages,
+TTexts OfChainages(EChainages eWhat, std::string_view sName, const std::vector<double>& aChainages,
                    const TRange& Range, const TRange& Axis) {
   std::vector<double> aRounded, aOutside;
   for (const double dChainage : aChainages) {
@@ -86,36 +90,47 @@ TTexts OfChainages(std::string_view sWhat, std::string_view sName, const std::ve
     const bool bOnAxis = dChainage >= Axis.dStart - dHalfStep && dChainage <= Axis.dEnd + dHalfStep;
     (bOnAxis ? aRounded : aOutside).push_back(dChainage);
   }
-  const auto sHead = [&](std::size_t n) {
-    return std::to_string(n) + " " + std::string(sWhat) + (n > 1 ? "s" : "") + " of " + Quoted(sName);
-  };
   TTexts aOut;
   if (!aRounded.empty()) {
-    aOut.push_back(sHead(aRounded.size()) + " left out because the range was rounded to 3 decimals: " +
-                   List(aRounded) + ". Type a range that is a millimetre wider.");
+    aOut.push_back(Phrase("WARN_ROUNDED",
+                          "%1 of \"%2\" left out because the range was rounded to 3 decimals: %3. Type a "
+                          "range that is a millimetre wider.",
+                          {CountOf(eWhat, aRounded.size()), sName, List(aRounded)}));
   }
   if (!aOutside.empty()) {
-    aOut.push_back(sHead(aOutside.size()) +
-                   " left out because the axis doesn't reach there: " + List(aOutside) + ".");
+    aOut.push_back(Phrase("WARN_OUTSIDE", "%1 of \"%2\" left out because the axis doesn't reach there: %3.",
+                          {CountOf(eWhat, aOutside.size()), sName, List(aOutside)}));
   }
   return aOut;
 }
 
 TTexts OfPlan(std::string_view sName, const THzElements& aHz, const TRange& Range) {
-  return OfElements("plan", sName, aHz, Range);
+  const auto aLeftOut = LeftOut(aHz, Range);
+  if (aLeftOut.empty()) return {};
+  return {Phrase("WARN_PLAN",
+                 "The plan \"%1\" has elements outside the range %2 to %3 that was offered; they are left "
+                 "out: %4. Widen the range if they are needed.",
+                 {sName, Metres(Range.dStart), Metres(Range.dEnd), List(aLeftOut)})};
 }
 
 TTexts OfProfile(std::string_view sName, const TVtElements& aVt, const TRange& Range) {
-  return OfElements("profile", sName, aVt, Range);
+  const auto aLeftOut = LeftOut(aVt, Range);
+  if (aLeftOut.empty()) return {};
+  return {Phrase("WARN_PROFILE",
+                 "The profile \"%1\" has elements outside the range %2 to %3 that was offered; they are "
+                 "left out: %4. Widen the range if they are needed.",
+                 {sName, Metres(Range.dStart), Metres(Range.dEnd), List(aLeftOut)})};
 }
 
 TTexts OfLayers(const TCrData& Cr) {
   TTexts aOut;
   for (const auto& Layer : Cr.Layers) {
     if (Layer.aCodes.size() != 1) continue;
-    aOut.push_back("The layer " + Quoted(Layer.sName) +
-                   " isn't offered, so none of it is written: its first section has a single point. "
-                   "Begin the listing with a section where the layer has two points or more.");
+    aOut.push_back(Phrase("WARN_LAYER",
+                          "The layer \"%1\" isn't offered, so none of it is written: its first section has a "
+                          "single point. Begin the listing with a section where the layer has two points or "
+                          "more.",
+                          {Layer.sName}));
   }
   return aOut;
 }
@@ -132,17 +147,20 @@ TTexts OfGrades(std::string_view sName, const TVtElements& aVt, double dToleranc
     dWorst = std::max(dWorst, dMiss);
   }
   if (aPlaces.empty()) return {};
-  return {"In the profile " + Quoted(sName) + " straight grades miss the height where they end, by up to " +
-          Metres(dWorst) + " m, at " + List(aPlaces) +
-          ". Heights in between are wrong: look at the gradients of the listing."};
+  return {
+      Phrase("WARN_GRADES",
+             "In the profile \"%1\" straight grades miss the height where they end, by up to %2 m, at %3. "
+             "Heights in between are wrong: look at the gradients of the listing.",
+             {sName, Metres(dWorst), List(aPlaces)})};
 }
 
 TTexts OfLastRow(std::string_view sName, const THzElements& aHz) {
   if (aHz.size() < 2 || !(aHz.back().dLength > 0)) return {};
   const auto& Last = aHz.back();
-  return {"The plan " + Quoted(sName) + " ends at " + Metres(Last.dChainage) +
-          ", but the last row of its table makes the alignment " + Metres(Last.dLength) +
-          " m longer. Don't work behind " + Metres(Last.dChainage) + "."};
+  return {Phrase("WARN_LAST_ROW",
+                 "The plan \"%1\" ends at %2, but the last row of its table makes the alignment %3 m longer. "
+                 "Don't work behind %2.",
+                 {sName, Metres(Last.dChainage), Metres(Last.dLength)})};
 }
 
 }  // namespace vrek::Warnings

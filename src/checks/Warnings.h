@@ -1,5 +1,6 @@
 // Warnings: what no check refuses and a field crew would still find out too late. They change nothing in the
-// document. Each warning is a sentence or two for a person: what is wrong, where, and what to do.
+// document. Each warning is a sentence or two for a person, in his language: what is wrong, where, and what
+// to do.
 #pragma once
 
 #include <string>
@@ -31,9 +32,11 @@ struct TRange {
 /// letter outside ASCII that goes out in the code page) or is changed (a letter that the code page lacks).
 TTexts OfNames(const std::vector<TName>& aNames);
 
+enum EChainages { eSections, eCantStations };
+
 /// Chainages of sections or table rows outside the range; Axis is the alignment as it is, before the range
-/// was rounded. sWhat: "cross-section" or "row of the cant table"; sName: of the file.
-TTexts OfChainages(std::string_view sWhat, std::string_view sName, const std::vector<double>& aChainages,
+/// was rounded. sName: of the file.
+TTexts OfChainages(EChainages eWhat, std::string_view sName, const std::vector<double>& aChainages,
                    const TRange& Range, const TRange& Axis);
 
 /// Elements of a plan or profile of which the range leaves everything out.

@@ -8,6 +8,7 @@
 #include "design_data/CAligmentsDatas.h"
 #include "rail_tunnel/clsSuperelevation.h"
 #include "shell/AppModel.h"
+#include "shell/Phrase.h"
 #include "wizard/frmWizard.h"
 
 namespace vrek {
@@ -56,23 +57,29 @@ class CCollector {
   std::vector<Warnings::TName> Names() const {
     const auto& Info = AppModel().ConversionInfo;
     std::vector<Warnings::TName> aNames{
-        {"the name of the data", Info.GetRoadDataName(), true, "give another name"},
-        {"the author", Info.GetCreator(), false, "give another author"}};
+        {Phrase("WARN_AS_DATA", "the name of the data"), Info.GetRoadDataName(), true,
+         Phrase("WARN_DO_DATA", "give another name")},
+        {Phrase("WARN_AS_AUTHOR", "the author"), Info.GetCreator(), false,
+         Phrase("WARN_DO_AUTHOR", "give another author")}};
+    const auto sRenamePlan = Phrase("WARN_DO_PLAN", "rename the file of the plan");
     const bool bTracks = m_Wizard.ctlJobType.JobType() >= eRailSingle;
     for (int nPage = 1; nPage <= m_Wizard.ctlFiles.PagesTot(); ++nPage) {
       const auto sPlan = m_Wizard.ctlFiles.GetName(nPage, 1);
       if (m_Wizard.ctlFiles.IsSelected(nPage, 1)) {
-        aNames.push_back({"the name of an alignment", sPlan, true, "rename the file of the plan"});
-        if (bTracks) aNames.push_back({"a line of a layer", sPlan, false, "rename the file of the plan"});
+        aNames.push_back({Phrase("WARN_AS_ALIGMENT", "the name of an alignment"), sPlan, true, sRenamePlan});
+        if (bTracks) {
+          aNames.push_back({Phrase("WARN_AS_LINE", "a line of a layer"), sPlan, false, sRenamePlan});
+        }
       }
       if (m_Wizard.ctlFiles.IsSelected(nPage, 2)) {
-        aNames.push_back({"the name of a profile", m_Wizard.ctlFiles.GetName(nPage, 2), true,
-                          "rename the file of the profile"});
+        aNames.push_back({Phrase("WARN_AS_PROFILE", "the name of a profile"),
+                          m_Wizard.ctlFiles.GetName(nPage, 2), true,
+                          Phrase("WARN_DO_PROFILE", "rename the file of the profile")});
       }
       if (bTracks) {
-        aNames.push_back({"the name of a layer and of its rails",
+        aNames.push_back({Phrase("WARN_AS_LAYER", "the name of a layer and of its rails"),
                           m_Wizard.ctlImporting.GetText("PAGE" + std::to_string(nPage)), false,
-                          "change the text in the language file"});
+                          Phrase("WARN_DO_LANGUAGE", "change the text in the language file")});
       }
     }
     return aNames;
@@ -103,17 +110,19 @@ class CCollector {
     Add(Warnings::OfLayers(Cr));
     std::vector<double> aChainages;
     for (const auto& Section : Cr.Sections) aChainages.push_back(Section.dChainage);
-    AddChainages("cross-section", m_Wizard.ctlFiles.GetName(nPage, 3), aChainages);
+    AddChainages(Warnings::eSections, m_Wizard.ctlFiles.GetName(nPage, 3), aChainages);
   }
 
   void AddCant(int nPage) {
     const auto oCant = CAligmentsDatas::GetAligmentSup(nPage);
-    if (oCant) AddChainages("cant station", m_Wizard.ctlFiles.GetName(nPage, 4), oCant->GetChainages());
+    if (oCant)
+      AddChainages(Warnings::eCantStations, m_Wizard.ctlFiles.GetName(nPage, 4), oCant->GetChainages());
   }
 
-  void AddChainages(const char* sWhat, const std::string& sName, const std::vector<double>& aChainages) {
+  void AddChainages(Warnings::EChainages eWhat, const std::string& sName,
+                    const std::vector<double>& aChainages) {
     Warnings::TRange Range, Axis;
-    if (Offered(Range, Axis)) Add(Warnings::OfChainages(sWhat, sName, aChainages, Range, Axis));
+    if (Offered(Range, Axis)) Add(Warnings::OfChainages(eWhat, sName, aChainages, Range, Axis));
   }
 
   const frmWizard& m_Wizard;

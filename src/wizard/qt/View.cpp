@@ -3,7 +3,7 @@
 #include <QSignalBlocker>
 #include <QVariant>
 
-#include "shell/AppModel.h"
+#include "shell/Phrase.h"
 
 namespace vrek::qt {
 namespace {
@@ -59,8 +59,7 @@ bool TakesMnemonic(const QWidget& Widget, const QWidget& Root) {
 }  // namespace
 
 QString Word(const char* sToken, const char* sEnglish) {
-  const auto sText = AppModel().GetToken(sToken);
-  return sText == sToken ? QString::fromUtf8(sEnglish) : Text(sText);
+  return Text(Phrase(sToken, sEnglish));
 }
 
 void SetCaption(QAbstractButton& Widget, const QString& sCaption) {

@@ -28,7 +28,7 @@ TEST(Warnings, TellNamesThatTheDocumentCannotBear) {
 TEST(Warnings, TellWhatTheRoundedRangeLeavesOut) {
   const Warnings::TRange Axis{0.0004, 100.1234}, Range{0.000, 100.123};
   const auto Of = [&](std::vector<double> aChainages) {
-    return Warnings::OfChainages("cross-section", "s", aChainages, Range, Axis);
+    return Warnings::OfChainages(Warnings::eSections, "s", aChainages, Range, Axis);
   };
   EXPECT_THAT(Of({0, 50, 100.123}), IsEmpty());
   EXPECT_THAT(Of({50, 100.1234}), ElementsAre(AllOf(HasSubstr("1 cross-section of"), HasSubstr("rounded"))));

@@ -48,6 +48,15 @@ const char* const aWindowTokens[] = {
     "WIN_FIT", "WIN_SAVE_PICTURE", "WIN_STRAIGHT", "WIN_ARC", "WIN_SPIRAL", "WIN_CHAINAGE",
     "WIN_LENGTH", "WIN_RADIUS", "WIN_PARAMETER", "WIN_LEFT", "WIN_RIGHT", "WIN_RAILS", "WIN_NOTHING",
     "WIN_WARNINGS"};
+
+// Sentences that the window and the batch command share.
+const char* const aWarningTokens[] = {
+    "WARN_NAME", "WARN_NAME_MARKUP", "WARN_NAME_LETTERS", "WARN_NAME_UTF8", "WARN_AS_DATA",
+    "WARN_AS_AUTHOR", "WARN_AS_ALIGMENT", "WARN_AS_LINE", "WARN_AS_PROFILE", "WARN_AS_LAYER",
+    "WARN_DO_DATA", "WARN_DO_AUTHOR", "WARN_DO_PLAN", "WARN_DO_PROFILE", "WARN_DO_LANGUAGE",
+    "WARN_MORE", "WARN_SECTION", "WARN_SECTIONS", "WARN_STATION", "WARN_STATIONS",
+    "WARN_ROUNDED", "WARN_OUTSIDE", "WARN_PLAN", "WARN_PROFILE", "WARN_LAYER",
+    "WARN_GRADES", "WARN_LAST_ROW", "WARN_NO_PLAN", "WARN_NO_PROFILE"};
 // clang-format on
 
 class LanguageTexts : public test::AppTest, public ::testing::WithParamInterface<const char*> {
@@ -65,6 +74,7 @@ TEST_P(LanguageTexts, GiveEachTokenOnceAText) {
   }
   std::multiset<std::string> aExpected(std::begin(aTokens), std::end(aTokens));
   aExpected.insert(std::begin(aWindowTokens), std::end(aWindowTokens));
+  aExpected.insert(std::begin(aWarningTokens), std::end(aWarningTokens));
   EXPECT_EQ(aFound, aExpected);
 }
 
@@ -80,7 +90,23 @@ TEST_P(LanguageTexts, HoldNoLineThatIsPassedOverByMistake) {
     EXPECT_EQ(std::count(sLine.begin(), sLine.end(), '='), 1) << sLine;
     ++nTokenLines;
   }
-  EXPECT_EQ(nTokenLines, std::ssize(aTokens) + std::ssize(aWindowTokens));
+  EXPECT_EQ(nTokenLines, std::ssize(aTokens) + std::ssize(aWindowTokens) + std::ssize(aWarningTokens));
+}
+
+TEST_P(LanguageTexts, HaveTheSamePlacesForParts) {
+  clsLanguageFile English, File;
+  ASSERT_TRUE(English.ReadFile("QuennelV2.lng"));
+  ASSERT_TRUE(File.ReadFile(GetParam()));
+  const auto Places = [](const std::string& sText) {
+    std::set<char> Found;
+    for (auto n = sText.find('%'); n != std::string::npos; n = sText.find('%', n + 1)) {
+      Found.insert(sText.at(n + 1));
+    }
+    return Found;
+  };
+  for (const TLanguageToken& Token : File.Tokens()) {
+    EXPECT_EQ(Places(Token.sText), Places(English.GetToken(Token.sToken))) << Token.sToken;
+  }
 }
 
 TEST_P(LanguageTexts, KeepTheHeadsOfReportColumnsWithinTheirWidth) {
