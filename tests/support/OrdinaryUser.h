@@ -14,7 +14,8 @@ namespace vrek::test {
 /// program where root can't be laid down.
 class OrdinaryUser {
  public:
-  explicit OrdinaryUser(const std::filesystem::path& Folder) : m_bRoot(::geteuid() == 0) {
+  explicit OrdinaryUser(const std::filesystem::path& Folder)
+      : m_Folder(Folder), m_bRoot(::geteuid() == 0) {
     if (m_bRoot && (::chown(Folder.c_str(), nNobody, -1u) != 0 || ::setresuid(nNobody, nNobody, 0) != 0))
       std::abort();
   }
@@ -24,8 +25,12 @@ class OrdinaryUser {
     if (m_bRoot && ::setresuid(0, 0, 0) != 0) std::abort();
   }
 
+  /// False where the folder lies below one that only root may enter: then the test can't tell anything.
+  bool ReachesFolder() const { return ::access(m_Folder.c_str(), W_OK | X_OK) == 0; }
+
  private:
   static constexpr uid_t nNobody = 65534;
+  std::filesystem::path m_Folder;
   bool m_bRoot;
 };
 
