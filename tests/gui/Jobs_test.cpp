@@ -11,7 +11,7 @@
 namespace vrek::test {
 namespace {
 
-const QString sDoubleTrack = QString(VREK_GOLDEN_CASES) + "/via_doble_6km/";
+const QString sDoubleTrack = sCases + "via_doble_6km/";
 
 // Stands in for the desktop's file manager.
 class FolderOpener : public QObject {
@@ -59,14 +59,14 @@ TEST_F(Jobs, WriteADoubleTrackByMouseAndKeys) {
   Run.Key(Qt::Key_Return);
   ASSERT_EQ(Run.Wizard.CurrentPage(), ePageFiles);
   FillDoubleTrack(Run, Platform);
-  Run.Click("cmdNext");
+  Run.Next();
   ASSERT_EQ(Run.Wizard.CurrentPage(), ePagePreferences);
   Run.Key(Qt::Key_Enter);
   ASSERT_EQ(Run.Wizard.CurrentPage(), ePageImporting);
   EXPECT_EQ(Run.Find<QTreeWidget>("trFiles")->topLevelItemCount(), 3);
-  Run.Click("cmdNext");
+  Run.Next();
   ASSERT_EQ(Run.Wizard.CurrentPage(), ePageExporting);
-  Run.Click("cmdNext");
+  Run.Next();
   ASSERT_EQ(Run.Wizard.CurrentPage(), ePageResult);
   EXPECT_EQ(ReadFile(Model.XmlFileToExport), ReadFile((sDoubleTrack + "expected.xml").toStdString()));
   EXPECT_TRUE(Platform.aBoxes.empty());
@@ -76,41 +76,28 @@ TEST_F(Jobs, WriteADoubleTrackByMouseAndKeys) {
   Run.Click("cmdPage0");
   EXPECT_EQ(Run.Find<QLabel>("lblPage")->text(), "2 / 3");
   EXPECT_FALSE(Run.Find("cmdCancel")->isEnabled());
-  Run.Click("cmdNext");
+  Run.Next();
   EXPECT_EQ(nExit, 0);
   EXPECT_EQ(Platform.aSettings["Files/Page3File1"], (sDoubleTrack + "Vía derecha.plt").toStdString());
 }
 
 TEST_F(Jobs, TakeTheFilesOfTheLastRunAgain) {
   Model.DebugMode = true;
-  {
-    WizardRun First(Platform, Model, nAllJobs, false);
-    First.Click("optDesign3");
-    First.Click("cmdNext");
-    FillDoubleTrack(First, Platform);
-    for (int n = 0; n < 5; ++n) First.Click("cmdNext");
-    ASSERT_EQ(nExit, 0);
-  }
-  WizardRun Second(Platform, Model, nAllJobs);
-  Second.Click("optDesign3");
-  Second.Click("cmdNext");
-  Second.Click("cmdResume");
-  EXPECT_EQ(Second.Find<QLineEdit>("txtFileName0")->text(), sDoubleTrack + "Eje de la duplicación.plt");
-  EXPECT_EQ(Second.Find<QLineEdit>("txtFileName0")->toolTip(), sDoubleTrack + "Eje de la duplicación.plt");
-  Second.Click("cmdPage0");
-  EXPECT_EQ(Second.Find<QLineEdit>("txtFileName3")->text(), sDoubleTrack + "Peraltes Vía izquierda.xml");
+  Platform.aSettings["Files/Page1File1"] = sTrackPlan.toStdString();
+  WizardRun Run(Platform, Model, nAllJobs);
+  Run.OpenFiles(2);
+  Run.Click("cmdResume");
+  EXPECT_EQ(Run.Find<QLineEdit>("txtFileName0")->text(), sTrackPlan);
 }
 
 TEST_F(Jobs, ComeBackFromTheResultAsTheyWere) {
   WizardRun Run(Platform, Model, nAllJobs);
-  Run.Click("optDesign2");
-  Run.Click("cmdNext");
-  const QString sTrack = QString(VREK_GOLDEN_CASES) + "/via_unica_8km/";
-  Run.Type("txtFileName0", sTrack + "Vía única.plt");
-  for (int n = 0; n < 3; ++n) Run.Click("cmdNext");
+  Run.OpenFiles(2);
+  Run.Type("txtFileName0", sTrackPlan);
+  Run.Next(3);
   ASSERT_EQ(Run.Wizard.CurrentPage(), ePageExporting);
   const auto sTitle = Run.Find<QLabel>("lblTitle")->text();
-  Run.Click("cmdNext");
+  Run.Next();
   ASSERT_EQ(Run.Wizard.CurrentPage(), ePageResult);
   EXPECT_FALSE(Run.IsOnShow("lblTitle"));
   FolderOpener Opener;
@@ -129,10 +116,9 @@ TEST_F(Jobs, TellOfANameThatBreaksTheDocument) {
   for (const char* sName : {"Plain", "Cut & cover"}) {
     Model.ConversionInfo.sJobName = sName;
     WizardRun Run(Platform, Model, nAllJobs);
-    Run.Click("optDesign2");
-    Run.Click("cmdNext");
-    Run.Type("txtFileName0", QString(VREK_GOLDEN_CASES) + "/via_unica_8km/Vía única.plt");
-    for (int n = 0; n < 4; ++n) Run.Click("cmdNext");
+    Run.OpenFiles(2);
+    Run.Type("txtFileName0", sTrackPlan);
+    Run.Next(4);
     ASSERT_EQ(Run.Wizard.CurrentPage(), ePageResult);
     QStringList aTold;
     if (Run.IsOnShow("lstWarnings")) {
@@ -160,10 +146,9 @@ TEST_F(Jobs, EndTheirProcess) {
   SetProcessStop({});
   const auto Walk = [this](int nPresses, const char* sLast) {
     WizardRun Run(Platform, Model, nAllJobs);
-    Run.Click("optDesign2");
-    Run.Click("cmdNext");
-    Run.Type("txtFileName0", QString(VREK_GOLDEN_CASES) + "/via_unica_8km/Vía única.plt");
-    for (int n = 0; n < nPresses; ++n) Run.Click("cmdNext");
+    Run.OpenFiles(2);
+    Run.Type("txtFileName0", sTrackPlan);
+    Run.Next(nPresses);
     Run.Click(sLast);
   };
   EXPECT_EXIT(Walk(4, "cmdNext"), ::testing::ExitedWithCode(0), "");
@@ -175,10 +160,9 @@ TEST_F(Jobs, EndTheirProcess) {
 // While a run is on, the title bar's close box presses the panel's Cancel, and the window closes behind it.
 TEST_F(Jobs, CloseWhenTheRunHasEnded) {
   WizardRun Run(Platform, Model, nAllJobs);
-  Run.Click("optDesign3");
-  Run.Click("cmdNext");
+  Run.OpenFiles(3);
   FillDoubleTrack(Run, Platform);
-  Run.Click("cmdNext");
+  Run.Next();
   bool bClosed = true, bDropTaken = true, bNextActed = true;
   Platform.OnMessages = [&] {
     Run.Events.ProcessMessages();
@@ -187,7 +171,7 @@ TEST_F(Jobs, CloseWhenTheRunHasEnded) {
     bNextActed = Run.Find("cmdNext")->isEnabled();
     bClosed = Run.Window->close();
   };
-  Run.Click("cmdNext");
+  Run.Next();
   EXPECT_FALSE(bClosed);
   EXPECT_FALSE(bDropTaken);
   EXPECT_FALSE(bNextActed);

@@ -15,12 +15,11 @@ class Picture : public AppTest {
   Picture() {
     Model.XmlFileToExport = (Directory / "out.xml").string();
     Run = std::make_unique<WizardRun>(Platform, Model, nAllJobs);
-    Run->Click("optDesign2");
-    Run->Click("cmdNext");
-    const QString sTrack = QString(VREK_GOLDEN_CASES) + "/via_unica_8km/";
+    Run->OpenFiles(2);
+    const QString sTrack = sCases + "via_unica_8km/";
     WizardRun::Drop(Run->Window.get(),
-                    {sTrack + "Vía única.plt", sTrack + "Rasante vía única.alz", sTrack + "Peraltes.xml"});
-    for (int n = 0; n < 4; ++n) Run->Click("cmdNext");
+                    {sTrackPlan, sTrack + "Rasante vía única.alz", sTrack + "Peraltes.xml"});
+    Run->Next(4);
     pView = Run->Find<qt::DrawingView>("picResult");
   }
 
@@ -49,7 +48,6 @@ TEST_F(Picture, MovesAndZoomsAndFits) {
 }
 
 TEST_F(Picture, TellsOfTheElementThatIsClicked) {
-  const auto First = Run->Wizard.ctlResult.GetValue(1, 1);
   const auto At = pView->View().ToDevice(0, 0);  // the local origin is the start of the plan
   QTest::mouseClick(pView, Qt::LeftButton, Qt::NoModifier, QPoint(qRound(At.dX), qRound(At.dY)));
   const auto sText = Run->Find<QLabel>("lblElement")->text();

@@ -14,6 +14,8 @@
 namespace vrek::test {
 
 inline constexpr int nAllJobs = 7;
+inline const QString sCases = QString(VREK_GOLDEN_CASES) + "/";
+inline const QString sTrackPlan = sCases + "via_unica_8km/Vía única.plt";
 
 /// A window of its own for each run, with the English texts unless told otherwise.
 class WizardRun {
@@ -32,6 +34,14 @@ class WizardRun {
   }
   bool IsOnShow(const QString& sName) const;
   void Click(const QString& sName) const;
+  void Next(int nTimes = 1) const {
+    for (int n = 0; n < nTimes; ++n) Click("cmdNext");
+  }
+  /// From the first page to the Files page of a job.
+  void OpenFiles(int nJob) const {
+    Click("optDesign" + QString::number(nJob));
+    Next();
+  }
   void Key(Qt::Key eKey, Qt::KeyboardModifiers eModifiers = Qt::NoModifier) const;
   /// Characters of any script, one key each, into a box that is clicked first.
   void Type(const QString& sName, const QString& sText) const;

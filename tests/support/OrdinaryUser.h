@@ -14,8 +14,7 @@ namespace vrek::test {
 /// program where root can't be laid down.
 class OrdinaryUser {
  public:
-  explicit OrdinaryUser(const std::filesystem::path& Folder)
-      : m_Folder(Folder), m_bRoot(::geteuid() == 0) {
+  explicit OrdinaryUser(const std::filesystem::path& Folder) : m_Folder(Folder), m_bRoot(::geteuid() == 0) {
     if (m_bRoot && (::chown(Folder.c_str(), nNobody, -1u) != 0 || ::setresuid(nNobody, nNobody, 0) != 0))
       std::abort();
   }

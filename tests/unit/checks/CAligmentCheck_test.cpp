@@ -41,21 +41,18 @@ THzElements GoodPlan() {
       .Elements();
 }
 
-TEST_F(Checks, TakePlansWhoseElementsMeet) {
-  EXPECT_EQ(Hz(GoodPlan(), 1e-6), 0);
-  EXPECT_EQ(Hz({{}, {.nId = 1, .dLength = 5}}), 0) << "nothing behind a single element";
-  EXPECT_EQ(Hz({{}}), 0);
-  EXPECT_EQ(Hz({}), 0);
-}
-
 TEST_F(Checks, FindEachElementThatDoesNotMeetTheNext) {
-  for (std::size_t i = 2; i < GoodPlan().size(); ++i) {
-    auto aHz = GoodPlan();
+  const auto aGood = GoodPlan();
+  EXPECT_EQ(Hz(aGood, 1e-6), 0);
+  for (std::size_t i = 2; i < aGood.size(); ++i) {
+    auto aHz = aGood;
     aHz[i].dX += 0.012;
     aHz[i].dY -= 0.016;
     EXPECT_EQ(Hz(aHz, 0.019), i + 1 < aHz.size() ? 2 : 1) << "it ends elsewhere as well " << i;
     EXPECT_EQ(Hz(aHz, 0.021), 0) << i;
   }
+  EXPECT_EQ(Hz({{}, {.nId = 1, .dLength = 5}}), 0) << "nothing behind a single element";
+  EXPECT_EQ(Hz({{}}) + Hz({}), 0);
 }
 
 TEST_F(Checks, PassADistanceEqualToTheTolerance) {
@@ -64,9 +61,8 @@ TEST_F(Checks, PassADistanceEqualToTheTolerance) {
   };
   EXPECT_EQ(Hz(TwoStraights(100.25), 0.25), 0);
   EXPECT_EQ(Hz(TwoStraights(100.2501), 0.25), 1);
-  EXPECT_EQ(GetReportText("file", "PAGE1@Hz"),
-            "          E_CH\t           E_X\t           E_Y\tE_DESCRIPTION \r\n\r\n"
-            "      100.0000\t        0.0000\t       -0.2501\tE_TOLE_HZ");
+  EXPECT_TRUE(GetReportText("file", "PAGE1@Hz")
+                  .ends_with("      100.0000\t        0.0000\t       -0.2501\tE_TOLE_HZ"));
 }
 
 TEST_F(Checks, FollowTheCubicSpiral) {
@@ -112,9 +108,7 @@ TEST_F(Checks, TestTheCurvesOfAProfileAlone) {
   EXPECT_EQ(Vt(Profile(-5000, 11.25), 0.25), 0);
   EXPECT_EQ(Vt(Profile(0, 99)), 0);
   EXPECT_EQ(Vt(Profile(-5000, 11.5)), 1);
-  EXPECT_EQ(
-      GetReportText("file", "PAGE2@Vt"),
-      "          E_CH\t           E_Z\tE_DESCRIPTION \r\n\r\n      100.0000\t        0.5000\tE_TOLE_VT");
+  EXPECT_TRUE(GetReportText("file", "PAGE2@Vt").ends_with("      100.0000\t        0.5000\tE_TOLE_VT"));
   EXPECT_EQ(Vt({}), 0);
 }
 
@@ -132,21 +126,16 @@ TEST_F(Checks, EndQuietlyOnAFailureAndKeepWhatTheyFound) {
 TEST_F(Checks, KeepSideFilesInsideTheProfile) {
   const TVtElements aVt{
       {}, {.nId = 1, .dChainage = 100, .dLength = 50}, {.nId = 2, .dChainage = 150, .dLength = 50}};
-  const struct {
-    TVtElements aVt;
-    std::vector<double> aChainages;
-    bool bTunnel, bCant;
-  } aCases[] = {
-      // clang-format off
+  // clang-format off
+  const struct { TVtElements aVt; std::vector<double> aChainages; bool bTunnel, bCant; } aCases[] = {
       {aVt,  {100, 150, 200},  false, false},
       {aVt,  {99.9999},        true,  true},
       {aVt,  {150, 200.0001},  true,  true},
       {aVt,  {},               false, false},
       {{{}}, {0, 0},           false, false},
       {{{}}, {1},              true,  true},
-      {{},   {1},              true,  false},
-      // clang-format on
-  };
+      {{},   {1},              true,  false}};
+  // clang-format on
   for (const auto& Case : aCases) {
     AddReportFile("tunnel", EFileKind::eTunnel);
     EXPECT_EQ(CheckTunnel(Case.aVt, Case.aChainages), Case.bTunnel);
@@ -170,13 +159,14 @@ TEST_F(Checks, ReportEachChainageOutside) {
 TEST_F(Checks, FindTheReportOfANode) {
   EXPECT_EQ(GetReportText("", "PAGE1@Hz"), "") << "no file yet";
   AddReportFile("a", EFileKind::eHorizontal);
-  AddReportFile("a", EFileKind::eVertical);
-  AddReportError(1, true, 0, 0, 2, 0, "first");
-  AddReportFile("a", EFileKind::eVertical);
-  AddReportError(1, true, 0, 0, 2, 0, "second");
+  AddReportError(1, false, 0, 0, 2, 0, "a note alone is no error");
+  for (const char* sText : {"first", "second"}) {
+    AddReportFile("a", EFileKind::eVertical);
+    AddReportError(1, true, 0, 0, 2, 0, sText);
+  }
   AddReportFile("sections", EFileKind::eCrossSections);
   EXPECT_EQ(GetReportText("a", "PAGE1@Hz"), "E_EMPTYFILE");
-  EXPECT_NE(GetReportText("a", "PAGE3@Vt").find("first"), std::string::npos);
+  EXPECT_TRUE(GetReportText("a", "PAGE3@Vt").ends_with("first"));
   EXPECT_EQ(GetReportText("a", "PAGE1@Cr"), "");
   EXPECT_EQ(GetReportText("b", "PAGE1@Hz"), "");
   EXPECT_EQ(GetReportText("sections", "PAGE1@Cr"), "E_EMPTYFILE");

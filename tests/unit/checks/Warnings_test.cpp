@@ -41,6 +41,8 @@ TEST(Warnings, TellElementsOutsideTheRange) {
   const THzElements aHz{{}, {1, 0, 0, 0, 0, 0, 0, 100}, {2, 100, 0, 0, 0, 0, 0, 0.0004}};
   EXPECT_THAT(Warnings::OfPlan("p", aHz, {0, 100}), IsEmpty());
   EXPECT_THAT(Warnings::OfPlan("p", aHz, {0, 99.999}), ElementsAre(HasSubstr("100.000")));
+  EXPECT_THAT(Warnings::OfPlan("p", aHz, {200, 300}), ElementsAre(HasSubstr("left out: 0.000.")))
+      << "the last stays";
   const TVtElements aVt{{}, {1, -50, 10, 0, 0, 50}, {2, 0, 10, 0, 0, 100}, {3, 100, 10, 0, 0, 0}};
   EXPECT_THAT(Warnings::OfProfile("v", aVt, {-10, 100}), IsEmpty());
   EXPECT_THAT(Warnings::OfProfile("v", aVt, {0, 100}), ElementsAre(HasSubstr("left out: -50.000.")));

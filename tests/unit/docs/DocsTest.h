@@ -55,13 +55,14 @@ class DocsTest : public ::testing::Test {
     fs::remove_all(Folder, Ignored);
   }
 
-  /// Runs the batch command with the language file of the sources; keeps what it said.
-  int Run(const std::vector<std::string>& aArguments) {
+  /// Runs the batch command with a language file, that of the sources unless told otherwise; keeps what it
+  /// said.
+  int Run(const std::vector<std::string>& aArguments, const fs::path& Language = VREK_ROOT "/lang") {
     std::vector<const char*> aPointers{"vrek-batch"};
     for (const auto& sArgument : aArguments) aPointers.push_back(sArgument.c_str());
     std::ostringstream Out, Err;
     const int nStatus =
-        batch::RunBatch(static_cast<int>(aPointers.size()), aPointers.data(), Out, Err, VREK_ROOT "/lang");
+        batch::RunBatch(static_cast<int>(aPointers.size()), aPointers.data(), Out, Err, Language.string());
     sOut = Out.str();
     sErr = Err.str();
     return nStatus;

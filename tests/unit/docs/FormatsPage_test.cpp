@@ -11,58 +11,39 @@ class FormatsPage : public DocsTest {
     for (const auto& [sName, sText] : aSamples) std::ofstream(Folder / sName, std::ios::binary) << sText;
   }
   std::string File(const char* pName) const { return (Folder / pName).string(); }
-  std::string Document() const { return ReadBytes(Folder / "out.xml"); }
 
   std::map<std::string, std::string> aSamples;
 };
 
-TEST_F(FormatsPage, RoadsInEveryForm) {
+TEST_F(FormatsPage, ConvertsItsListingsAndSideFiles) {
   ASSERT_GE(aSamples.size(), 12U);
-  const char* aForms[][3] = {{"plan.plt", "profile.alz", "sections.trv"},
-                             {"plan.plt", "profile-printed.alz", "sections-printed.trv"},
-                             {"plan.rtf", "profile.rtf", "sections.rtf"}};
-  for (const auto& aForm : aForms) {
-    SCOPED_TRACE(aForm[1]);
-    EXPECT_EQ(Run({"road", "--formats", "7", "--hz", File(aForm[0]), "--vt", File(aForm[1]), "--cross",
-                   File(aForm[2]), "-o", File("out.xml")}),
-              0)
-        << sErr;
-    for (const char* pTag : {"<Line ", "<Spiral ", "<Curve ", "<ParaCurve ", "<CrossSect "}) {
-      EXPECT_NE(Document().find(pTag), std::string::npos) << pTag;
-    }
+  const std::vector<const char*> aRoadTags = {"<Line ", "<Spiral ", "<Curve ", "<ParaCurve ", "<CrossSect "};
+  // clang-format off
+  const struct { const char *pJob, *pHz, *pVt, *pOption, *pThird; std::vector<const char*> aTexts; } aRows[] = {
+      {"road",   "plan.plt", "profile.alz",         "--cross",  "sections.trv",         aRoadTags},
+      {"road",   "plan.plt", "profile-printed.alz", "--cross",  "sections-printed.trv", aRoadTags},
+      {"road",   "plan.rtf", "profile.rtf",         "--cross",  "sections.rtf",         aRoadTags},
+      {"rail",   "plan.plt", "profile.alz",         "--cant",   "cant.xml",             {">Left,Right<"}},
+      {"rail",   "plan.plt", "profile.alz",         "--cant",   "cant-rails.xml",       {}},
+      {"tunnel", "plan.plt", "profile.alz",         "--tunnel", "tunnel.xml",           {"<TunnelProfiles"}}};
+  // clang-format on
+  for (const auto& Row : aRows) {
+    SCOPED_TRACE(Row.pThird);
+    std::vector<std::string> aArguments{Row.pJob, "--formats", "7", "-o", File("out.xml")};
+    aArguments.insert(aArguments.end(), {"--hz", File(Row.pHz), "--vt", File(Row.pVt)});
+    aArguments.insert(aArguments.end(), {Row.pOption, File(Row.pThird)});
+    EXPECT_EQ(Run(aArguments), 0) << sErr;
+    const auto sDocument = ReadBytes(Folder / "out.xml");
+    for (const char* pText : Row.aTexts) EXPECT_NE(sDocument.find(pText), std::string::npos) << pText;
   }
 }
 
-TEST_F(FormatsPage, SideFiles) {
-  EXPECT_EQ(Run({"rail", "--hz", File("plan.plt"), "--vt", File("profile.alz"), "--cant", File("cant.xml"),
-                 "-o", File("out.xml")}),
-            0)
-      << sErr;
-  EXPECT_NE(Document().find(">Left,Right<"), std::string::npos);
-  EXPECT_EQ(Run({"rail", "--hz", File("plan.plt"), "--vt", File("profile.alz"), "--cant",
-                 File("cant-rails.xml"), "-o", File("out.xml")}),
-            0)
-      << sErr;
-  EXPECT_EQ(Run({"tunnel", "--formats", "7", "--hz", File("plan.plt"), "--vt", File("profile.alz"),
-                 "--tunnel", File("tunnel.xml"), "-o", File("out.xml")}),
-            0)
-      << sErr;
-  EXPECT_NE(Document().find("<TunnelProfiles"), std::string::npos);
-}
-
-TEST_F(FormatsPage, JobFile) {
-  EXPECT_EQ(Run({"run", File("job.toml")}), 0) << sErr;
-  EXPECT_TRUE(fs::exists(Folder / "line4.xml"));
-}
-
 // A line of the sample language file shows on the files page of the outcome.
-TEST_F(FormatsPage, LanguageFile) {
+TEST_F(FormatsPage, TakesItsJobFileAndItsLanguageFile) {
   fs::copy(Folder / "language.lng", Folder / "QuennelV2.lng");
-  const std::string sJob = File("job.toml");
-  const char* aArguments[] = {"vrek-batch", "run", sJob.c_str(), "--json", "--quiet"};
-  std::ostringstream Out, Err;
-  EXPECT_EQ(batch::RunBatch(5, aArguments, Out, Err, Folder.string()), 0);
-  EXPECT_NE(Out.str().find("\"Files of the track\""), std::string::npos) << Out.str();
+  EXPECT_EQ(Run({"run", File("job.toml"), "--json"}, Folder), 0) << sErr;
+  EXPECT_TRUE(fs::exists(Folder / "line4.xml"));
+  EXPECT_NE(sOut.find("\"Files of the track\""), std::string::npos) << sOut;
 }
 
 }  // namespace

@@ -2,38 +2,20 @@
 // joined without gaps, far from the origin.
 #include <cmath>
 
-#include "design_data/CAligmentsDatas.h"
 #include "preview/Preview.h"
-#include "support/TestApp.h"
+#include "unit/rail_tunnel/Tracks.h"
 
 namespace vrek {
 namespace {
 
 // A straight, a clothoid into an arc to the right, the arc, and what follows it.
 THzElements Plan() {
-  const double dX = 440000, dY = 4480000, A = 200, R = 400, L = A * A / R;
-  THzElements aHz(5);
-  aHz[1] = {1, 1000, dX, dY, 50, 0, 0, 300};
-  const auto Next = [&](int i, double dRadius, double dParameter, double dLength) {
-    auto& Before = aHz[static_cast<std::size_t>(i - 1)];
-    const auto Element = Alg::InRadians(Before);
-    const THzPoint End =
-        Alg::GetElementKind(Before) == Alg::eStraight ? Alg::GetPointOnLine(Before.dLength, Element)
-        : Alg::GetElementKind(Before) == Alg::eArc    ? Alg::GetPointOnArc(Before.dLength, Element)
-                                                      : Alg::GetPointOnClothoid(Before.dLength, R, Element);
-    aHz[static_cast<std::size_t>(i)] = {i,
-                                        Before.dChainage + Before.dLength,
-                                        End.dX,
-                                        End.dY,
-                                        End.dAzimuth / GM::dGonToRadians,
-                                        dRadius,
-                                        dParameter,
-                                        dLength};
-  };
-  Next(2, GM::dInfiniteRadius, A, L);
-  Next(3, R, 0, 250);
-  Next(4, 0, 0, 100);
-  return aHz;
+  return test::PlanMaker(440000, 4480000, 50, 1000)
+      .Line(300)
+      .Clothoid(GM::dInfiniteRadius, 400, 200, 100)
+      .Arc(400, 250)
+      .Line(100)
+      .Elements();
 }
 
 TEST(Preview, FollowsTheAligmentWithinTheTolerance) {
@@ -66,35 +48,31 @@ TEST(Preview, LeavesOutWhatCantBeWorkedOut) {
   EXPECT_TRUE(Preview::MakePlan({}, 1, 0, 0, 0).empty());
 }
 
-TEST(Preview, DrawsACubicSpiralFromItsStartToThatOfTheNextElement) {
+TEST(Preview, EndsEachElementWhereTheNextStarts) {
   auto aHz = Plan();
+  aHz[2].dX += 0.05;  // a gap within a generous tolerance
   aHz[2].dParameter = -100;
   aHz[2].dRadius = 400;
-  const auto aElements = Preview::MakePlan(aHz, 2, 2, aHz[2].dX, aHz[2].dY);
-  ASSERT_EQ(aElements.size(), 1U);
-  EXPECT_EQ(aElements[0].eKind, Alg::eCubicSpiral);
-  EXPECT_NEAR(aElements[0].aPoints.front().dX, 0, 1e-9);
-  EXPECT_NEAR(aElements[0].aPoints.back().dX, aHz[3].dX - aHz[2].dX, 1e-9);
+  const auto aElements = Preview::MakePlan(aHz, 1, 2, 0, 0);
+  ASSERT_EQ(aElements.size(), 2U);
+  EXPECT_EQ(aElements[1].eKind, Alg::eCubicSpiral);
+  for (const std::size_t n : {0, 1}) {
+    EXPECT_NEAR(aElements[n].aPoints.front().dX, aHz[n + 1].dX, 1e-9);
+    EXPECT_NEAR(aElements[n].aPoints.back().dX, aHz[n + 2].dX, 1e-9);
+  }
 }
 
 TEST(Preview, JoinsTheElementsOfAProfile) {
-  TVtElements aVt(4);
-  aVt[1] = {1, 0, 100, 0.02, 0, 50};
-  aVt[2] = {2, 50, 101, 0.02, -1000, 40};
-  aVt[3] = {3, 90, 101, -0.02, 0, 10};
-  const auto aRuns = Preview::MakeProfile(aVt, 1, 3);
+  TVtElements aVt{{}, {1, 0, 100, 0.02, 0, 50}, {2, 50, 101, 0.02, -1000, 40}, {3, 90, 101, -0.02, 0, 10}};
+  auto aRuns = Preview::MakeProfile(aVt, 1, 3);
   ASSERT_EQ(aRuns.size(), 3U);
   EXPECT_TRUE(aRuns[1].bCurve);
   EXPECT_GT(aRuns[1].aPoints.size(), 10U);
   EXPECT_NEAR(aRuns[1].aPoints[aRuns[1].aPoints.size() / 2].dHeight, 101.2, 0.01);
   EXPECT_NEAR(aRuns[2].aPoints.back().dHeight, 100.8, 1e-9);
-}
-
-TEST(Preview, RunsAGradeFromVertexToVertexWhateverItsSlope) {
-  TVtElements aVt(3);
-  aVt[1] = {1, 0, 100, 0.5, 0, 50};
-  aVt[2] = {2, 50, 101, 0.02, 0, 10};
-  const auto aRuns = Preview::MakeProfile(aVt, 1, 2);
+  // A grade runs from vertex to vertex whatever its slope; the last one by its own.
+  aVt = {{}, {1, 0, 100, 0.5, 0, 50}, {2, 50, 101, 0.02, 0, 10}};
+  aRuns = Preview::MakeProfile(aVt, 1, 2);
   ASSERT_EQ(aRuns.size(), 1U);
   EXPECT_DOUBLE_EQ(aRuns[0].aPoints[1].dHeight, 101);
   EXPECT_DOUBLE_EQ(aRuns[0].aPoints.back().dHeight, 101.2);
@@ -113,8 +91,10 @@ TEST(Preview, FindsPlacesAndElements) {
   EXPECT_NEAR(Preview::PlaceAt(Aligment, 0).Point.dX, 0, 1e-9);
   EXPECT_NEAR(Preview::PlaceAt(Aligment, 1e6).Point.dX, Aligment.aElements.back().aPoints.back().dX, 1e-9);
   EXPECT_EQ(Preview::PlaceAt({}, 5).Point.dX, 0);
-  const auto Found = Preview::FindElement(Shown, Place.Point.dX + 1, Place.Point.dY, 2);
-  EXPECT_EQ(Found, (Preview::TElementIndex{0, 2}));
+  for (const auto& [dChainage, nElement] : {std::pair{1399.0, 1}, {1401.0, 2}}) {  // both within reach
+    const auto At = Preview::PlaceAt(Aligment, dChainage).Point;
+    EXPECT_EQ(Preview::FindElement(Shown, At.dX, At.dY, 2), (Preview::TElementIndex{0, nElement}));
+  }
   EXPECT_FALSE(Preview::FindElement(Shown, -500, -500, 2).IsGiven());
 }
 

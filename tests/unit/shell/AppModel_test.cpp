@@ -15,40 +15,14 @@ TEST_F(AppModelTest, CountsTheJobTypesOfAMask) {
   // clang-format on
   for (const auto& [nMask, nNumber] : aMaskAndNumber) {
     EXPECT_EQ(MakeConverterInfo(nMask).nJobTypesNumber, nNumber) << nMask;
-    EXPECT_EQ(MakeConverterInfo(nMask).nFormatsSupport, nMask);
   }
 }
 
 TEST_F(AppModelTest, NamesTheDataAfterTheJobOrTheOutputFile) {
-  // clang-format off
-  const char* const aCases[][3] = {
-      {"Obra 1", R"(C:\t\Road.v2.xml)",   "Obra 1"},
-      {"",       R"(C:\t\Road.v2.xml)",   "Road.v2"},
-      {"",       "/home/p.q/road",        "road"},
-      {"",       "/home/t/Vía única.xml", "Vía única"},
-      {"",       "",                      ""}};
-  // clang-format on
-  for (const auto& [pJob, pFile, pName] : aCases) {
-    Model.ConversionInfo.sJobName = pJob;
-    Model.XmlFileToExport = pFile;
-    EXPECT_EQ(Model.ConversionInfo.GetRoadDataName(), pName);
-  }
-}
-
-TEST_F(AppModelTest, NamesTheUserWhereNoCreatorIsGiven) {
-  EXPECT_EQ(Model.ConversionInfo.GetCreator(), "tester");
-  Model.ConversionInfo.sCreator = "survey office";
-  EXPECT_EQ(Model.ConversionInfo.GetCreator(), "survey office");
-}
-
-TEST_F(AppModelTest, KnowsWhichFilesCanBeRead) {
-  EXPECT_TRUE(ExistFile(WriteFile("eje.plt", "x")));
-  EXPECT_TRUE(ExistFile(WriteFile("empty.plt", "")));
-  EXPECT_FALSE(ExistFile((Directory / "other.plt").string()));
-  EXPECT_FALSE(ExistFile(Directory.string()));
-  EXPECT_FALSE(ExistFile(""));
-  EXPECT_TRUE(Platform.aBoxes.empty());
-  EXPECT_EQ(Log(), "");
+  Model.XmlFileToExport = "/home/p.q/Vía única.v2.xml";
+  EXPECT_EQ(Model.ConversionInfo.GetRoadDataName(), "Vía única.v2");
+  Model.ConversionInfo.sJobName = "Obra 1";
+  EXPECT_EQ(Model.ConversionInfo.GetRoadDataName(), "Obra 1");
 }
 
 TEST_F(AppModelTest, NotesAListingWithBareLineFeedsAndReadsItEvenWithoutALog) {
@@ -60,19 +34,15 @@ TEST_F(AppModelTest, NotesAListingWithBareLineFeedsAndReadsItEvenWithoutALog) {
   EXPECT_EQ(OpenTextFile(sPath).NextLine(), "one");
 }
 
-TEST_F(AppModelTest, EndsTheProcessWithACodeOnlyInAHostedRun) {
-  EXPECT_EXIT(EndProcess(1), ::testing::ExitedWithCode(1), "");
-  Model.DebugMode = true;
-  EXPECT_EXIT(EndProcess(1), ::testing::ExitedWithCode(0), "");
-}
-
-TEST_F(AppModelTest, LetsACallerLiveOnAtTheProcessEnd) {
+TEST_F(AppModelTest, EndsTheProcessWithACodeOnlyInAHostedRunUnlessACallerLivesOn) {
   std::vector<int> aCodes;
-  SetProcessStop([&](int nCode) { aCodes.push_back(nCode); });
-  EndProcess(1);
-  Model.DebugMode = true;
-  EndProcess(1);
-  SetProcessStop({});
+  for (const bool bByHand : {false, true}) {
+    Model.DebugMode = bByHand;
+    EXPECT_EXIT(EndProcess(1), ::testing::ExitedWithCode(bByHand ? 0 : 1), "");
+    SetProcessStop([&](int nCode) { aCodes.push_back(nCode); });
+    EndProcess(1);
+    SetProcessStop({});
+  }
   EXPECT_EQ(aCodes, (std::vector<int>{1, 0}));
 }
 

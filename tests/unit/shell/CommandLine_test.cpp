@@ -11,11 +11,8 @@ class CommandLine : public test::AppTest {
 };
 
 TEST_F(CommandLine, TakesTheOptionsOfAHost) {
-  struct TCase {
-    const char *pLine, *pFile, *pJob;
-  };
   // clang-format off
-  const TCase aCases[] = {
+  const struct { const char *pLine, *pFile, *pJob; } aCases[] = {
       {R"(-o "C:\t\road.xml" -n "Road1")",        R"(C:\t\road.xml)", "Road1"},
       {R"(-n "Road1" -x  -o "r.xml")",            "r.xml",            "Road1"},
       {R"(-o C:\t\road.xml -n Road1)",            "",                 ""},
@@ -26,7 +23,7 @@ TEST_F(CommandLine, TakesTheOptionsOfAHost) {
       {R"(-o "" -n "x"y"z")",                     "",                 "x"},
       {R"(-o  "a.xml")",                          "",                 ""}};
   // clang-format on
-  for (const TCase& Case : aCases) {
+  for (const auto& Case : aCases) {
     Model.XmlFileToExport = Model.ConversionInfo.sJobName = "";
     EXPECT_TRUE(ReadLineCommand(Case.pLine)) << Case.pLine;
     EXPECT_EQ(Model.XmlFileToExport, Case.pFile) << Case.pLine;
@@ -37,17 +34,16 @@ TEST_F(CommandLine, TakesTheOptionsOfAHost) {
 }
 
 TEST_F(CommandLine, AsksForTheOutputFileOnAStandAloneRun) {
+  EXPECT_FALSE(ReadLineCommand("")) << "dismissed";
+  Platform.sSaveAnswer = "/home/t/obra.xml";
   for (const char* pLine : {"", "-reg", "whatever"}) {
-    Platform.sSaveAnswer = "/home/t/obra.xml";
     Model.DebugMode = false;
     EXPECT_TRUE(ReadLineCommand(pLine)) << pLine;
     EXPECT_TRUE(Model.DebugMode);
     EXPECT_EQ(Model.XmlFileToExport, "/home/t/obra.xml");
-    EXPECT_EQ(Platform.sSaveFilter, "File xml (*.XML)|*.XML|");
-    EXPECT_EQ(Platform.sSaveName, "out_v2.3.0.xml");
   }
-  Platform.sSaveAnswer = "";
-  EXPECT_FALSE(ReadLineCommand(""));
+  EXPECT_EQ(Platform.sSaveFilter, "File xml (*.XML)|*.XML|");
+  EXPECT_EQ(Platform.sSaveName, "out_v2.3.0.xml");
   EXPECT_TRUE(Platform.aBoxes.empty());
 }
 

@@ -10,56 +10,48 @@
 namespace vrek {
 namespace {
 
-using test::AppTest;
+using ErrHandlerTest = test::AppTest;
 
-struct TCase {
-  const char* pLabel;
-  int nNumber;
-  bool bDebugMode;
-  std::string sBox;  // "" for none
-  EIcon eIcon;
-  bool bLogged;
-  friend void PrintTo(const TCase& Case, std::ostream* pOut) { *pOut << Case.pLabel; }
-};
-
-class ErrHandlerTable : public AppTest, public ::testing::WithParamInterface<TCase> {};
-
-TEST_P(ErrHandlerTable, ShowsAndLogs) {
-  const TCase& Case = GetParam();
-  Model.DebugMode = Case.bDebugMode;
-  ErrHandler({Case.nNumber, "What happened", "Where"});
-  if (Case.sBox.empty()) {
-    EXPECT_TRUE(Platform.aBoxes.empty());
-  } else {
-    ASSERT_EQ(Platform.aBoxes.size(), 1u);
-    EXPECT_EQ(Platform.aBoxes[0].sText, Case.sBox);
-    EXPECT_EQ(Platform.aBoxes[0].eIcon, Case.eIcon);
+TEST_F(ErrHandlerTest, ShowsAndLogsByTheNumber) {
+  const std::string sUnhandled = "Unhandler Error in Where\r\nWhat happened";
+  const auto eWarning = EIcon::eWarning, eCritical = EIcon::eCritical;
+  // clang-format off
+  const struct {
+    int nNumber;
+    bool bDebugMode;
+    std::string sBox;  // "" for none
+    EIcon eIcon;
+    bool bLogged;
+  } aCases[] = {
+      {10000, false, "E_NOTFILLALL",                     eWarning,  false},
+      {10001, false, "E_SAMENAME",                       eWarning,  false},
+      {10002, false, "E_NOTFINDXMLELM",                  eWarning,  false},
+      {10003, false, "E_OPENLANDXML\r\nWhat happened",   eWarning,  false},
+      {10011, true,  "E_NOVALIDFILE",                    eWarning,  false},
+      {20001, false, "E_FILE_SUPER",                     eWarning,  false},
+      {20002, true,  "E_FILE_SUPER_VER",                 eWarning,  false},
+      {20000, false, "",                                 eWarning,  true},   // an assertion
+      {20000, true,  "ASSERT in Where\r\nWhat happened", eWarning,  false},
+      {2222,  false, sUnhandled,                         eCritical, true},   // cancelled
+      {53,    true,  sUnhandled,                         eCritical, true},
+      {-7,    false, sUnhandled,                         eCritical, true}};
+  // clang-format on
+  for (const auto& Case : aCases) {
+    SCOPED_TRACE(std::to_string(Case.nNumber) + (Case.bDebugMode ? " by hand" : " hosted"));
+    std::filesystem::remove(Directory / "KTVO_Converters.log");
+    Platform.aBoxes.clear();
+    Model.DebugMode = Case.bDebugMode;
+    ErrHandler({Case.nNumber, "What happened", "Where"});
+    ASSERT_EQ(Platform.aBoxes.size(), Case.sBox.empty() ? 0u : 1u);
+    for (const auto& Box : Platform.aBoxes) {
+      EXPECT_EQ(Box.sText, Case.sBox);
+      EXPECT_EQ(Box.eIcon, Case.eIcon);
+    }
+    const auto sEntry = "==== 01-02-2026  03:04:05 ====\r\nError: " + std::to_string(Case.nNumber) +
+                        " What happened in Where\r\n";
+    EXPECT_EQ(Log(), Case.bLogged ? sEntry : "");
   }
-  const std::string sEntry = "==== 01-02-2026  03:04:05 ====\r\nError: " + std::to_string(Case.nNumber) +
-                             " What happened in Where\r\n";
-  EXPECT_EQ(Log(), Case.bLogged ? sEntry : "");
 }
-
-const std::string sUnhandled = "Unhandler Error in Where\r\nWhat happened";
-
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Numbers, ErrHandlerTable, ::testing::Values(
-    TCase{"NotAllFilled",   10000, false, "E_NOTFILLALL",                     EIcon::eWarning,  false},
-    TCase{"SameName",       10001, false, "E_SAMENAME",                       EIcon::eWarning,  false},
-    TCase{"XmlElement",     10002, false, "E_NOTFINDXMLELM",                  EIcon::eWarning,  false},
-    TCase{"XmlUnreadable",  10003, false, "E_OPENLANDXML\r\nWhat happened",   EIcon::eWarning,  false},
-    TCase{"NoValidFile",    10011, true,  "E_NOVALIDFILE",                    EIcon::eWarning,  false},
-    TCase{"CantContent",    20001, false, "E_FILE_SUPER",                     EIcon::eWarning,  false},
-    TCase{"CantVersion",    20002, true,  "E_FILE_SUPER_VER",                 EIcon::eWarning,  false},
-    TCase{"AssertHosted",   20000, false, "",                                 EIcon::eWarning,  true},
-    TCase{"AssertByHand",   20000, true,  "ASSERT in Where\r\nWhat happened", EIcon::eWarning,  false},
-    TCase{"Cancelled",      2222,  false, sUnhandled,                         EIcon::eCritical, true},
-    TCase{"FileNotFound",   53,    true,  sUnhandled,                         EIcon::eCritical, true},
-    TCase{"Unknown",        -7,    false, sUnhandled,                         EIcon::eCritical, true}),
-    [](const auto& Info) { return std::string(Info.param.pLabel); });
-// clang-format on
-
-using ErrHandlerTest = AppTest;
 
 TEST_F(ErrHandlerTest, AppendsCodePageBytesToTheLogAndTellsOfEachEntry) {
   std::vector<std::string> aTold;

@@ -47,12 +47,6 @@ TEST_F(LanguageFile, HoldsOneEmptyElementWhenThereIsNoToken) {
   EXPECT_EQ(File.GetToken("LBL_A"), "LBL_A");
 }
 
-TEST_F(LanguageFile, ReadsAFileThatEndsItsLinesWithLf) {
-  ASSERT_TRUE(Load("LBL_A=a\nLBL_B=b\n"));
-  EXPECT_EQ(File.GetToken("LBL_B"), "b");
-  EXPECT_NE(Log().find("q.lng"), std::string::npos);
-}
-
 TEST_F(LanguageFile, RefusesAMissingAndAnEmptyFile) {
   EXPECT_FALSE(File.ReadFile("missing.lng"));
   EXPECT_FALSE(Load(""));

@@ -1,4 +1,4 @@
-// The Exporting page and what a run leaves behind: range, layers, the document, the settings.
+// The Exporting page and what a run leaves behind: range, layers, the document, its summary, the settings.
 #include "WizardTest.h"
 #include "design_data/CAligmentsDatas.h"
 #include "wizard/clsWizard.h"
@@ -8,19 +8,30 @@ namespace {
 
 class Exporting : public test::WizardTest {
  protected:
-  void OpenRoad() {
-    OpenFiles(eRoad);
-    Type(1, 1, Example("road/Axis 1.plt"));
-    Type(1, 2, Example("road/Axis 1.alz"));
-    Type(1, 3, Example("road/Axis 1.trv"));
+  /// Opens the Exporting page of a job with the plan, the profile and the side file of an example.
+  void OpenExample(int nJob, const std::string& sAxis, const std::string& sSideFile) {
+    OpenFiles(nJob);
+    Type(1, 1, Example(sAxis + ".plt"));
+    Type(1, 2, Example(sAxis + ".alz"));
+    Type(1, nJob == eRailSingle ? 4 : 3, Example(sSideFile));
     Next(3);
     ASSERT_EQ(Window.CurrentPage(), ePageExporting);
   }
+  void OpenRoad() { OpenExample(eRoad, "road/Axis 1", "road/Axis 1.trv"); }
   void OpenTrack() {
     OpenFiles(eRailSingle);
-    Type(1, 1, Plan("a.plt"));
+    Type(1, 1, Example("rail/Track.plt"));
     Next(3);
     ASSERT_EQ(Window.CurrentPage(), ePageExporting);
+  }
+  /// "label value; ..." of the rows of a result page.
+  std::string Rows(int nPage) const {
+    std::string sOut;
+    for (int nRow = 1; nRow <= 6; ++nRow) {
+      const auto sLabel = Window.ctlResult.GetDescription(nPage, nRow);
+      if (!sLabel.empty()) sOut += sLabel + " " + Window.ctlResult.GetValue(nPage, nRow) + "; ";
+    }
+    return sOut;
   }
 };
 
@@ -31,30 +42,57 @@ TEST_F(Exporting, OffersTheRangeOfThePlanAndTheLayers) {
   EXPECT_EQ(Page.txtChainage[1].Text, "800.000");
   EXPECT_TRUE(Page.LayersVisible());
   EXPECT_EQ(Page.GetSelectedLayers(), "$Taludes$Cunetas$Subrasante$Rasante$");
-  EXPECT_EQ(Page.GetSelectedLayersIdx(), "$0$1$2$3$");
   Page.txtChainage[0].Text = "100";
   Next();
+  EXPECT_FALSE(Window.frTitle.Visible);
   Window.cmdBack_Click();
+  EXPECT_TRUE(Window.frTitle.Visible);
   EXPECT_EQ(Page.txtChainage[0].Text, "100") << "Back doesn't fill the page anew";
   Window.cmdBack_Click();
   Next();
   EXPECT_EQ(Page.txtChainage[0].Text, "0.000");
-}
-
-TEST_F(Exporting, ALayerOfOneCodeIsntOffered) {
-  OpenRoad();
+  // A layer of one code has nothing to link.
   auto Cr = CAligmentsDatas::GetAligmentCr(1);
-  ASSERT_EQ(Cr.Layers.size(), 4U);
   Cr.Layers[1].aCodes = {};
   Cr.Layers[1].aCodes.Append("0.000");
   CAligmentsDatas::SetAligmentCr(1, Cr);
   clsWizard(Window).IntroPage(ePageExporting);
-  EXPECT_EQ(Window.ctlExporting.GetSelectedLayersIdx(), "$0$2$3$");
+  EXPECT_EQ(Page.GetSelectedLayersIdx(), "$0$2$3$");
+}
+
+TEST_F(Exporting, SumsUpEachPage) {
+  const std::string sPlan = "LBL_HZ_CH_START 0.000000; LBL_HZ_CH_END 800.000000; ";
+  OpenRoad();
+  Next();
+  EXPECT_EQ(Window.ctlResult.GetTitle(1), "FR_SUMMARY");
+  EXPECT_EQ(Rows(1), sPlan +
+                         "LBL_VT_CH_START 0.000000; LBL_VT_CH_END 800.000000; "
+                         "LBL_CR_CH_START 0.000000; LBL_CR_CH_END 800.000000; ");
+  OpenExample(eTunnel, "tunnel/Bore axis", "tunnel/Bore profiles.xml");
+  Next();
+  EXPECT_NE(Rows(1).find("LBL_TN_CH_START 2050.000000; "), std::string::npos) << Rows(1);
+  OpenExample(eRailSingle, "rail/Track", "rail/Track cant.xml");
+  Next();
+  EXPECT_NE(Rows(1).find("LBL_TR_CH_START 10000.000000; "), std::string::npos) << Rows(1);
+
+  OpenFiles(eRailDouble);  // without a centre
+  Type(2, 1, Example("double/Left track.plt"));
+  Type(3, 1, Example("double/Right track.plt"));
+  Next(4);
+  EXPECT_EQ(Window.ctlResult.Page(), 2) << "the first page with rows";
+  Window.ctlResult.cmdPage_Click(1);
+  EXPECT_EQ(Window.ctlResult.Page(), 2);
+  EXPECT_EQ(Window.ctlResult.GetTitle(3), "FR_SUMMARY_RIGHT");
+  EXPECT_EQ(Window.ctlResult.GetDescription(3, 1), "LBL_HZ_CH_START");
+  EXPECT_EQ(Window.ctlResult.GetDescription(3, 3), "");
+  EXPECT_NE(Document().find("<Feature code=\"QN Stringline Layer\">Left track\r"), std::string::npos)
+      << "the centre has no name";
 }
 
 TEST_F(Exporting, UncheckedLayersAreNotWritten) {
   OpenRoad();
   Window.ctlExporting.cmdSelect_Click(1);
+  EXPECT_EQ(Window.ctlExporting.GetSelectedLayers(), "__None__");
   Next();
   EXPECT_EQ(Window.CurrentPage(), ePageResult);
   EXPECT_EQ(Document().find("<CrossSects"), std::string::npos);
@@ -69,8 +107,7 @@ TEST_F(Exporting, DeclinesWithoutAnyPlan) {
   OpenTrack();
   CAligmentsDatas::InitAligments();
   CAligmentsDatas::AddAligment();
-  clsWizard Logic(Window);
-  EXPECT_FALSE(Logic.IntroPage(ePageExporting));
+  EXPECT_FALSE(clsWizard(Window).IntroPage(ePageExporting));
   EXPECT_FALSE(Platform.aBoxes.empty());
 }
 
@@ -87,9 +124,7 @@ TEST_F(Exporting, StaysWhenTheFileCantBeOpened) {
 
 TEST_F(Exporting, CancelDuringTheRulesWritesNoSections) {
   OpenRoad();
-  Platform.OnMessages = [this] {
-    if (Window.ctlProgress.cmbCancel.Visible) Window.ctlProgress.cmbCancel_Click();
-  };
+  CancelAtOnce();
   Next();
   EXPECT_EQ(Window.CurrentPage(), ePageExporting);
   EXPECT_FALSE(Window.ctlProgress.Visible);
@@ -99,35 +134,18 @@ TEST_F(Exporting, CancelDuringTheRulesWritesNoSections) {
   EXPECT_EQ(Window.CurrentPage(), ePageResult);
 }
 
-TEST_F(Exporting, FinishSavesTheSettingsAndTheFiles) {
+TEST_F(Exporting, ReadsTheSettingsWithACommaAndFinishSavesThem) {
   Platform.aSettings["Files/Page1File2"] = "older.alz";
   Platform.aSettings["Vrek/DataVersion"] = "1.0";
+  Platform.aSettings["Preferences/ToleranceHz"] = "0,0136";
   OpenTrack();
-  Window.ctlPreferences.ctlTolerance[0].txtNumber_Change("0,0136");
   Next(2);
   EXPECT_EQ(aStops, std::vector<int>{0});
   EXPECT_EQ(Platform.aSettings["Preferences/ToleranceHz"], "0.014");
   EXPECT_EQ(Platform.aSettings["Preferences/ToleranceVt"], "0.010");
   EXPECT_EQ(Platform.aSettings["Vrek/DataVersion"], "1.0");
-  EXPECT_EQ(Platform.aSettings["Files/Page1File1"], (Directory / "a.plt").string());
+  EXPECT_EQ(Platform.aSettings["Files/Page1File1"], Example("rail/Track.plt"));
   EXPECT_EQ(Platform.aSettings["Files/Page1File2"], "older.alz") << "slots that aren't checked keep theirs";
-}
-
-TEST_F(Exporting, CancelSavesNothing) {
-  OpenTrack();
-  Window.ctlPreferences.SetToleranceHz(0.5);
-  Window.cmdCancel_Click();
-  EXPECT_EQ(aStops, std::vector<int>{1});
-  EXPECT_TRUE(Platform.aSettings.empty());
-}
-
-TEST_F(Exporting, ReadsTheSettingsWithAComma) {
-  Platform.aSettings["Preferences/ToleranceHz"] = "0,005";
-  Platform.aSettings["Preferences/ToleranceVt"] = "none";
-  InitFormats(4);
-  Window.Load();
-  EXPECT_DOUBLE_EQ(Window.ctlPreferences.ToleranceHz(), 0.005);
-  EXPECT_DOUBLE_EQ(Window.ctlPreferences.ToleranceVt(), 0);
 }
 
 }  // namespace

@@ -51,7 +51,7 @@ TEST_F(FilesPage, OffersTheSlotsOfTheJob) {
   }
 }
 
-TEST_F(FilesPage, EachSlotNeedsTheOneBeforeIt) {
+TEST_F(FilesPage, EachSlotNeedsTheOneBeforeItAndTheLastTwoExcludeEachOther) {
   OpenFiles(eRoad);
   EXPECT_EQ(Enabled(), "1000");
   Type(1, 3, "a.trv");
@@ -60,19 +60,18 @@ TEST_F(FilesPage, EachSlotNeedsTheOneBeforeIt) {
   EXPECT_EQ(Enabled(), "1100");
   Slot(2).txtFileName_Change("a.alz");
   EXPECT_EQ(Enabled(), "1111");
-  Slot(1).txtFileName_Change("");
-  EXPECT_EQ(Enabled(), "1000");
-}
-
-TEST_F(FilesPage, ThirdAndFourthSlotExcludeEachOther) {
-  OpenFiles(eRoad);
-  for (const int nFile : {1, 2, 3}) Slot(nFile).txtFileName_Change("x");
+  Slot(3).txtFileName_Change("a.trv");
   Slot(4).chkFile_Click(true);
   EXPECT_TRUE(Slot(3).Checked());
   EXPECT_FALSE(Slot(4).Checked());
   Slot(3).chkFile_Click(false);
   Slot(4).chkFile_Click(true);
   EXPECT_TRUE(Slot(4).Checked());
+  Slot(1).txtFileName_Change("");
+  EXPECT_EQ(Enabled(), "1000");
+  Window.cmdBack_Click();
+  Next();
+  EXPECT_EQ(Slot(2).Filename(), "") << "the way through the Job page drops the files";
 }
 
 TEST_F(FilesPage, TheCentresOptionFreesTheTracksFromTheirProfile) {
@@ -88,40 +87,42 @@ TEST_F(FilesPage, TheCentresOptionFreesTheTracksFromTheirProfile) {
 }
 
 TEST_F(FilesPage, OneTrackAtMostIsGeneratedFromTheOther) {
-  OpenFiles(eRailDouble);
-  Type(2, 1, "l.plt");
-  SetOption(2);
-  Window.ctlFiles.cmdPage_Click(0);
-  EXPECT_FALSE(Slot(2).chkOption.Visible);
-  Window.ctlFiles.cmdPage_Click(1);
-  EXPECT_TRUE(Slot(2).chkOption.Value);
-  Slot(2).chkFile_Click(false);  // clears the option with it
-  EXPECT_FALSE(Slot(2).chkOption.Value);
-  Window.ctlFiles.cmdPage_Click(0);
-  EXPECT_TRUE(Slot(2).chkOption.Visible);
+  for (const int nTrack : {2, 3}) {
+    OpenFiles(eRailDouble);
+    Type(nTrack, 1, "l.plt");
+    SetOption(nTrack);
+    Window.ctlFiles.ShowPage(5 - nTrack);
+    EXPECT_FALSE(Slot(2).chkOption.Visible);
+    Window.ctlFiles.ShowPage(nTrack);
+    EXPECT_TRUE(Slot(2).chkOption.Value);
+    Slot(2).chkFile_Click(false);  // clears the option with it
+    EXPECT_FALSE(Slot(2).chkOption.Value);
+    Window.ctlFiles.ShowPage(5 - nTrack);
+    EXPECT_TRUE(Slot(2).chkOption.Visible);
+  }
 }
 
 TEST_F(FilesPage, RefusesToBeLeftWithAFocusOnTheFault) {
   const auto sFile = WriteFile("there.plt", "x");
-  using T = std::vector<std::pair<int, int>>;
+  // clang-format off
   const struct {
     int nJob;
-    T aFiles;
-    int nOption;
+    std::vector<std::pair<int, int>> aFiles;  // page and slot, the plans first
+    int nOption;  // page
     const char* sFault;
   } aRows[] = {
-      {0, {}, 0, "1,1"},
-      {0, {{1, 1}}, 0, ""},
-      {3, {}, 0, "2,1"},
-      {3, {{1, 1}}, 0, "2,1"},
-      {3, {{3, 1}}, 0, ""},
-      {3, {{2, 1}}, 2, "3,2"},
-      {3, {{2, 1}, {3, 1}, {3, 2}}, 2, "2,4"},
+      {0, {},                               0, "1,1"},
+      {0, {{1, 1}},                         0, ""},
+      {3, {},                               0, "2,1"},
+      {3, {{1, 1}},                         0, "2,1"},
+      {3, {{3, 1}},                         0, ""},
+      {3, {{2, 1}},                         2, "3,2"},
+      {3, {{2, 1}, {3, 1}, {3, 2}},         2, "2,4"},
       {3, {{2, 1}, {3, 1}, {3, 2}, {2, 4}}, 2, ""},
-      {3, {{3, 1}}, 3, "2,2"},
-      {3, {{3, 1}, {2, 1}, {2, 2}}, 3, "3,4"},
-      {3, {{1, 1}, {2, 1}}, 1, "1,2"},
-  };
+      {3, {{3, 1}},                         3, "2,2"},
+      {3, {{3, 1}, {2, 1}, {2, 2}},         3, "3,4"},
+      {3, {{1, 1}, {2, 1}},                 1, "1,2"}};
+  // clang-format on
   for (const auto& Row : aRows) {
     OpenFiles(Row.nJob);
     for (const auto& [nPage, nFile] : Row.aFiles) {
@@ -139,19 +140,19 @@ TEST_F(FilesPage, RefusesToBeLeftWithAFocusOnTheFault) {
 
 TEST_F(FilesPage, FindsAFileThatIsGone) {
   OpenFiles(eRailDouble);
-  const auto sPlan = Plan("l.plt");
-  Type(2, 1, sPlan);
-  Type(3, 1, WriteFile("r.plt", "x"));
-  std::filesystem::remove(sPlan);
-  Window.ctlFiles.ShowPage(1);
-  EXPECT_EQ(NextFault(), "2,1");
-  EXPECT_EQ(Window.ctlFiles.Page(), 2);
-  Slot(1).LeaveFocus();
-  EXPECT_TRUE(Slot(1).txtFileName.FileMissing);
+  Type(3, 1, Example("rail/Track.plt"));
+  for (const auto& sPath : {(Directory / "gone.plt").string(), Directory.string()}) {
+    Type(2, 1, sPath);
+    Window.ctlFiles.ShowPage(1);
+    EXPECT_EQ(NextFault(), "2,1") << sPath;
+    EXPECT_EQ(Window.ctlFiles.Page(), 2);
+  }
+  for (const int nFile : {1, 2}) {
+    Slot(nFile).LeaveFocus();
+    EXPECT_EQ(Slot(nFile).txtFileName.FileMissing, nFile == 1) << "an empty slot misses nothing";
+  }
   Slot(1).EnterFocus();
   EXPECT_FALSE(Slot(1).txtFileName.FileMissing);
-  Type(2, 1, Directory.string());
-  EXPECT_EQ(NextFault(), "2,1") << "a folder is no file";
 }
 
 TEST_F(FilesPage, StartsTheEditorsWithTheirArguments) {
@@ -172,12 +173,7 @@ TEST_F(FilesPage, StartsTheEditorsWithTheirArguments) {
   EXPECT_EQ(sCommand(3, 4, 3, true), "TrackTableEditor.exe -d1 -c -l cant.xml");
 }
 
-TEST_F(FilesPage, TakesTheFirstOfDroppedFilesAndOnThePageEachWhereItFits) {
-  OpenFiles(eRoad);
-  Slot(1).DropFiles({"a.plt", "b.plt", "c.plt"});
-  EXPECT_EQ(Slot(1).Filename(), "a.plt");
-  Slot(2).DropFiles({});
-  EXPECT_EQ(Slot(2).Filename(), "");
+TEST_F(FilesPage, TakesDroppedFilesEachWhereItFits) {
   OpenFiles(eRoad);
   const auto aLeft = Window.ctlFiles.DropFiles({"s.TRV", "readme.txt", "v.alz", "h.rtf"});
   EXPECT_EQ(aLeft, (std::vector<std::string>{"readme.txt"}));
@@ -186,14 +182,11 @@ TEST_F(FilesPage, TakesTheFirstOfDroppedFilesAndOnThePageEachWhereItFits) {
 
 TEST_F(FilesPage, BrowsesWithoutLosingThePathWhenDismissed) {
   OpenFiles(eRoad);
-  Slot(1).txtFileName_Change("a.plt");
-  Platform.sOpenAnswer = "";
-  Slot(1).cmdBrowse_Click();
-  EXPECT_EQ(Slot(1).Filename(), "a.plt");
-  Platform.sOpenAnswer = "/x/b.c.plt";
-  Slot(1).cmdBrowse_Click();
-  EXPECT_EQ(Slot(1).GetName(), "b.c");
-  EXPECT_EQ(Slot(1).GetFilename(), "b.c.plt");
+  for (const auto& [sAnswer, sName] : {std::pair{"/x/b.c.plt", "b.c"}, {"", "b.c"}}) {
+    Platform.sOpenAnswer = sAnswer;
+    Slot(1).cmdBrowse_Click();
+    EXPECT_EQ(Slot(1).GetName(), sName);
+  }
 }
 
 TEST_F(FilesPage, ResumesTheLastFilesInARunStartedByHand) {
@@ -215,15 +208,6 @@ TEST_F(FilesPage, ResumesTheLastFilesInARunStartedByHand) {
   Window.cmdBack_Click();
   Next();
   EXPECT_FALSE(Window.ctlFiles.cmdResume.Visible);
-}
-
-TEST_F(FilesPage, GoingThroughTheJobPageAgainDropsTheFiles) {
-  OpenFiles(eRailSingle);
-  Type(1, 1, "a.plt");
-  Window.cmdBack_Click();
-  Next();
-  EXPECT_EQ(Slot(1).Filename(), "");
-  EXPECT_FALSE(Window.ctlFiles.IsSelected(1, 1));
 }
 
 TEST_F(FilesPage, NumbersOutOfRangeDoNothing) {

@@ -23,22 +23,28 @@ TStringLine Line(const std::string& sName, double dStart, double dEnd, int nPrev
 
 class StringLines : public test::WizardTest {
  protected:
-  /// The store: line 1 alone, lines 2 and 3 a chain, 4 alone.
-  void Fill(int nAligment) {
+  /// The job's pages with a plan of the name given in slot 1 ("" leaves it empty), and the store as if the
+  /// kinds of lines had been read: line 1 alone, lines 2 and 3 a chain, 4 alone.
+  void Open(int nJob, const std::vector<std::string>& aPlans, int nKinds = 8) {
+    OpenFiles(nJob);
+    Model.ConversionInfo.nFilesToRead = nKinds;
+    CAligmentsDatas::InitAligments();
     TStringLines Lines;
     Lines.Lines = {{}, Line("A", 0, 100), Line("B", 0, 40, -1, 3), Line("B2", 40, 90, 2), Line("D", 0, 80)};
     Lines.nCount = 4;
-    CAligmentsDatas::SetAligmentStrLn(nAligment, Lines);
-  }
-  void Open(int nJob, int nBits) {
-    OpenFiles(nJob);
-    Model.ConversionInfo.nFilesToRead = nBits;
-    CAligmentsDatas::InitAligments();
     for (int nAligment = 1; nAligment <= Window.ctlFiles.PagesTot(); ++nAligment) {
       CAligmentsDatas::AddAligment();
-      Fill(nAligment);
+      CAligmentsDatas::SetAligmentStrLn(nAligment, Lines);
       Window.ctlImporting.AddRoot("PAGE" + std::to_string(nAligment), "root" + std::to_string(nAligment));
+      Type(nAligment, 1, aPlans[static_cast<std::size_t>(nAligment - 1)]);
     }
+    Window.ctlFiles.LeaveFocus();
+    Logic = std::make_unique<clsWizard>(Window);
+  }
+  /// The same as far as the page where the lines get their parts.
+  void OpenSelection(int nJob, const std::vector<std::string>& aPlans) {
+    Open(nJob, aPlans);
+    ASSERT_TRUE(Logic->IntroPage(ePageSelectStrLn));
   }
   std::string Write(int nJob) {
     Window.ctlExporting.SetChainageStart(0);
@@ -63,15 +69,13 @@ class StringLines : public test::WizardTest {
     }
     return sOut;
   }
+
+  std::unique_ptr<clsWizard> Logic;
+  ctlSelectStrLns& Page = Window.ctlSelectStrLn;
 };
 
 TEST_F(StringLines, ThePageOffersWhatContinuesNoOther) {
-  Open(eRailSingle, 8);
-  Type(1, 1, "A.plt");
-  Window.ctlFiles.LeaveFocus();
-  clsWizard Logic(Window);
-  ASSERT_TRUE(Logic.IntroPage(ePageSelectStrLn));
-  auto& Page = Window.ctlSelectStrLn;
+  OpenSelection(eRailSingle, {"A.plt"});
   EXPECT_EQ(Page.GetTotalToSelect(1), "3");
   ASSERT_EQ(Page.cString[0].cmbStringline.Items.size(), 2U);
   EXPECT_EQ(Page.cString[0].SelectedString(), "A");
@@ -84,17 +88,12 @@ TEST_F(StringLines, ThePageOffersWhatContinuesNoOther) {
   Page.cString[2].cmbStringline_GotFocus();
   EXPECT_EQ(Page.GetRailsCtrl().RailsOn(), 4);
   Page.cString[1].SetSelectedString("D");
-  ASSERT_TRUE(Logic.ExitPage(ePageSelectStrLn));
+  ASSERT_TRUE(Logic->ExitPage(ePageSelectStrLn));
   EXPECT_EQ(CAligmentsDatas::GetAligmentStrLn(1).sSelected, "$1$4$");
 }
 
 TEST_F(StringLines, ThePageOfADoubleTrackPassesOverSubPagesWithoutSelectors) {
-  Open(eRailDouble, 8);
-  Type(1, 1, "A.plt");
-  Type(3, 1, "A.plt");
-  Window.ctlFiles.LeaveFocus();
-  ASSERT_TRUE(clsWizard(Window).IntroPage(ePageSelectStrLn));
-  auto& Page = Window.ctlSelectStrLn;
+  OpenSelection(eRailDouble, {"A.plt", "", "A.plt"});
   EXPECT_EQ(Page.Page(), 1);
   EXPECT_EQ(Page.GetRailsCtrl().RailsOn(), 8);
   EXPECT_EQ(Page.GetTotalToSelect(2), "0");
@@ -112,7 +111,6 @@ TEST_F(StringLines, ThePageOfADoubleTrackPassesOverSubPagesWithoutSelectors) {
 
 TEST_F(StringLines, BadNumbersAreReportedAsSuch) {
   Model.DebugMode = true;
-  auto& Page = Window.ctlSelectStrLn;
   Page.AddPage("one", 2);
   Page.ShowPage(2);
   EXPECT_EQ(Page.GetSelected(1, 3), "");
@@ -124,28 +122,20 @@ TEST_F(StringLines, BadNumbersAreReportedAsSuch) {
 }
 
 TEST_F(StringLines, TheExportingPageOffersHeadsAndLinesAlone) {
-  Open(eRoad, 8);
-  Type(1, 1, "D.plt");
-  Window.ctlFiles.LeaveFocus();
-  clsWizard Logic(Window);
-  ASSERT_TRUE(Logic.IntroPage(ePageExporting));
+  Open(eRoad, {"D.plt"});
+  ASSERT_TRUE(Logic->IntroPage(ePageExporting));
   EXPECT_EQ(Window.ctlExporting.ChainageEnd(), 80) << "the range of the line named as the file";
   EXPECT_EQ(Window.ctlExporting.GetSelectedLayersIdx(), "$1$2$4$");
-  Type(1, 1, "nobody.plt");
-  Window.ctlFiles.LeaveFocus();
-  EXPECT_FALSE(Logic.IntroPage(ePageExporting));
+  Open(eRoad, {"nobody.plt"});
+  EXPECT_FALSE(Logic->IntroPage(ePageExporting));
 }
 
 TEST_F(StringLines, ARoadWritesItsChosenLinesEachAsAnAlignment) {
-  Open(eRoad, 8);
-  Type(1, 1, "A.plt");
-  Window.ctlFiles.LeaveFocus();
-  clsWizard Logic(Window);
-  ASSERT_TRUE(Logic.IntroPage(ePageSelectStrLn));
-  ASSERT_TRUE(Logic.ExitPage(ePageSelectStrLn));
-  ASSERT_TRUE(Logic.IntroPage(ePageExporting));
+  OpenSelection(eRoad, {"A.plt"});
+  ASSERT_TRUE(Logic->ExitPage(ePageSelectStrLn));
+  ASSERT_TRUE(Logic->IntroPage(ePageExporting));
   Window.ctlExporting.lstLayers_ItemCheck(2, false);
-  ASSERT_TRUE(Logic.ExitPage(ePageExporting));
+  ASSERT_TRUE(Logic->ExitPage(ePageExporting));
   const auto& Lines = CAligmentsDatas::GetAligmentStrLn(1);
   EXPECT_EQ(Lines.sSelected, "$1$2$");
   EXPECT_FALSE(Lines.Lines[4].bExported);
@@ -159,9 +149,7 @@ TEST_F(StringLines, ARoadWritesItsChosenLinesEachAsAnAlignment) {
 }
 
 TEST_F(StringLines, SelectionNumbersAreWholeNumbers) {
-  Open(eRoad, 32);
-  Type(1, 1, "axis.plt");
-  Window.ctlFiles.LeaveFocus();
+  Open(eRoad, {"axis.plt"}, 32);
   auto Lines = CAligmentsDatas::GetAligmentStrLn(1);
   while (Lines.nCount < 12) {
     Lines.Lines.push_back(Line("L" + std::to_string(++Lines.nCount), 0, 10));
@@ -172,40 +160,28 @@ TEST_F(StringLines, SelectionNumbersAreWholeNumbers) {
 }
 
 TEST_F(StringLines, TheTracksTakeTheirRailsFromTheChosenLines) {
-  Open(eRailSingle, 8);
-  Type(1, 1, "A.plt");
-  Window.ctlFiles.LeaveFocus();
-  clsWizard Logic(Window);
-  ASSERT_TRUE(Logic.IntroPage(ePageSelectStrLn));
-  ASSERT_TRUE(Logic.ExitPage(ePageSelectStrLn));
+  OpenSelection(eRailSingle, {"A.plt"});
+  ASSERT_TRUE(Logic->ExitPage(ePageSelectStrLn));
   EXPECT_EQ(Layers(Write(eRailSingle)), "A|root1|A|NO;") << "no rails chosen";
-  Window.ctlSelectStrLn.cString[1].SetSelectedString("D");
-  Window.ctlSelectStrLn.cString[2].SetSelectedString("A");
-  ASSERT_TRUE(Logic.ExitPage(ePageSelectStrLn));
+  Page.cString[1].SetSelectedString("D");
+  Page.cString[2].SetSelectedString("A");
+  ASSERT_TRUE(Logic->ExitPage(ePageSelectStrLn));
   EXPECT_EQ(Layers(Write(eRailSingle)), "A,D,A|root1|A|NO|A;");
 }
 
 TEST_F(StringLines, ADoubleTrackGroupsItsLinesByTrack) {
-  Open(eRailDouble, 8);
-  for (int nPage = 1; nPage <= 3; ++nPage) Type(nPage, 1, "A.plt");
-  Window.ctlFiles.LeaveFocus();
-  clsWizard Logic(Window);
-  ASSERT_TRUE(Logic.IntroPage(ePageSelectStrLn));
-  auto& Page = Window.ctlSelectStrLn;
+  OpenSelection(eRailDouble, {"A.plt", "A.plt", "A.plt"});
   Page.ShowPage(2);
   Page.cString[0].SetSelectedString("D");
   Page.cString[1].SetSelectedString("A");
   Page.cString[2].SetSelectedString("D");
   Page.ShowPage(3);
-  ASSERT_TRUE(Logic.ExitPage(ePageSelectStrLn));
+  ASSERT_TRUE(Logic->ExitPage(ePageSelectStrLn));
   EXPECT_EQ(Layers(Write(eRailDouble)), "A,D,D,A|root2|D|NO|D|A;A,A|root3|A|NO|A|A;");
 }
 
 TEST_F(StringLines, ALayerWithoutNamesIsAFailureAndNotTheEnd) {
-  Open(eRoad, 8);
-  Type(1, 1, "A.plt");
-  Window.ctlFiles.LeaveFocus();
-  ASSERT_TRUE(clsWizard(Window).IntroPage(ePageSelectStrLn));
+  OpenSelection(eRoad, {"A.plt"});
   Write(eRoad);  // nothing is selected
   ASSERT_FALSE(Platform.aBoxes.empty());
   EXPECT_EQ(Platform.aBoxes.back().sText, "Unhandler Error in ExportRoad\r\nSubscript out of range");

@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "base/FormatReal.h"
 #include "shell/CommandLine.h"
 #include "shell/ProcessEnd.h"
 #include "support/TestApp.h"
@@ -62,26 +61,13 @@ class WizardTest : public AppTest {
     return sOut;
   }
   std::string Document() const { return ReadFile(Directory / "out.xml"); }
+  /// From now on presses the panel's Cancel as soon as it is on show.
+  void CancelAtOnce() {
+    Platform.OnMessages = [this] {
+      if (Window.ctlProgress.cmbCancel.Visible) Window.ctlProgress.cmbCancel_Click();
+    };
+  }
 
-  // A straight plan of 100 m eastwards from 0 with a constant grade: small enough to work out by hand.
-  std::string Plan(const std::string& sName, double dGap = 0) const {
-    return WriteFile(sName, CrLf("*PLT\n0.000,1000.0000,2000.0000,100.000000,0.000,0.0000\n60.000," +
-                                 FormatReal(1060 + dGap, 6) +
-                                 ",2000.0000,100.000000,0.000,0.0000\n100.000,1100.0000,2000.0000,"
-                                 "100.000000,0.000,0.0000\n"));
-  }
-  std::string Profile(const std::string& sName) const {
-    return WriteFile(sName, CrLf("*ALZ\n0.000,10.0000C,0T\n50.000,11.0000C,20.000T\n100.000,10.0000C,0T\n"));
-  }
-  std::string Cant(const std::string& sName, const std::string& sFirst = "0.000") const {
-    const std::string sEnd =
-        R"(" appliedCant="40.0" rotationPoint="insideRail" appliedGauge="1.435" appliedSuperelevation="1.500"/>)";
-    return WriteFile(sName,
-                     "<?xml version=\"1.0\"?>\n<!-- Track table, version '2.0.1' -->\n"
-                     "<Cant gauge=\"1.435\" superelevationBase=\"1.500\" rotationPoint=\"insideRail\" "
-                     "coPlane=\"false\">\n<CantStation station=\"" +
-                         sFirst + sEnd + "<CantStation station=\"90.000" + sEnd + "</Cant>\n");
-  }
   std::string Example(const std::string& sName) const { return std::string(VREK_EXAMPLES) + "/" + sName; }
 
   frmWizard Window;
