@@ -10,11 +10,8 @@ struct TBadFile {
   const char* sReader;       // the source of the failure; null: refused without a word
   const char* sDescription;  // of the failure
   const char* sLogged;       // the line that the log shows; "" for none
+  friend void PrintTo(const TBadFile& File, std::ostream* pOut) { *pOut << File.sName; }
 };
-
-void PrintTo(const TBadFile& File, std::ostream* pOut) {
-  *pOut << File.sName;
-}
 
 class BadListing : public ReaderTest, public ::testing::WithParamInterface<TBadFile> {};
 
@@ -35,11 +32,9 @@ TEST_P(BadListing, IsRefused) {
   EXPECT_EQ(BoxText(), File.sReader == nullptr
                            ? ""
                            : "Unhandler Error in " + std::string(File.sReader) + "\r\n" + File.sDescription);
-  if (File.sLogged[0] != 0) {
-    EXPECT_NE(Log().find("Msg " + sPath + ", " + File.sLogged + "\r\n"), std::string::npos) << Log();
-  } else {
-    EXPECT_EQ(Log().find("Msg "), std::string::npos) << Log();
-  }
+  const bool bLogged = File.sLogged[0] != 0;
+  const std::string sMessage = bLogged ? "Msg " + sPath + ", " + File.sLogged + "\r\n" : "Msg ";
+  EXPECT_EQ(Log().find(sMessage) != std::string::npos, bLogged) << Log();
 }
 
 constexpr const char* sSubscript = "Subscript out of range";
@@ -83,25 +78,12 @@ INSTANTIATE_TEST_SUITE_P(Files, BadListing, ::testing::ValuesIn(aBadFiles), [](c
   return sName;
 });
 
-TEST_F(ReaderTest, WithoutAListingTheArrayHasNoElements) {
-  EXPECT_EQ(UpperBound(ReadVt("")), -1);
-  EXPECT_FALSE(bRead);
-  EXPECT_TRUE(ReadCr("").Layers.empty());
-  EXPECT_EQ(UpperBound(ReadHz("")), 0) << "always reaches its reader";
-}
-
 TEST_F(ReaderTest, AnUnwritableLogDoesNotHideWhatIsWrong) {
   const std::string sPath = WriteFile("a.plt", "*PLT\r\n1,2\r\n3,4\r\n");
   Platform.sTempDirectory = "/no/such/directory/";
   THzElements aHz;
   EXPECT_ANY_THROW(Entry::ImportHzAligment(aHz, sPath));
   EXPECT_EQ(BoxText(), "Unhandler Error in ImportHzMarked\r\nSubscript out of range");
-}
-
-TEST_F(ReaderTest, StringlineFilesHaveNoReader) {
-  TStringLines StrLn;
-  EXPECT_FALSE(Entry::ImportStrLnAligment(StrLn, "a.txt"));
-  EXPECT_NE((Log() + BoxText()).find("ImportStrLnAligment"), std::string::npos);
 }
 
 }  // namespace

@@ -9,28 +9,24 @@
 namespace vrek::test {
 namespace {
 
-// An element as the plan has it; radii are signed here.
-struct TPlanElement {
+// An element as the plan has it, with its own radius and parameter; radii are signed here.
+struct TPlanElement : THzElement {
   std::string sKind;
-  THzElement Start;  // dRadius and dParameter of the element itself
   double dRadiusEnd = 0;
 };
 
 std::vector<TPlanElement> ReadPlan(const std::filesystem::path& Path) {
   std::vector<TPlanElement> aPlan;
   std::ifstream Stream(Path);
-  for (std::string sLine; std::getline(Stream, sLine);) {
+  for (std::string sLine, sTurn; std::getline(Stream, sLine);) {
     if (sLine.starts_with('#')) continue;
     std::istringstream Fields(sLine);
     Fields.imbue(std::locale::classic());
-    TPlanElement E;
-    std::string sTurn;
-    Fields >> E.sKind >> sTurn >> E.Start.dChainage >> E.Start.dX >> E.Start.dY >> E.Start.dAzimuth >>
-        E.Start.dRadius >> E.dRadiusEnd >> E.Start.dParameter >> E.Start.dLength;
-    if (sTurn == "left") E.Start.dRadius = -E.Start.dRadius, E.dRadiusEnd = -E.dRadiusEnd;
-    if (E.sKind == "Spiral" && E.Start.dRadius == 0)
-      E.Start.dRadius = std::copysign(GM::dInfiniteRadius, E.dRadiusEnd);
-    aPlan.push_back(E);
+    TPlanElement& E = aPlan.emplace_back();
+    Fields >> E.sKind >> sTurn >> E.dChainage >> E.dX >> E.dY >> E.dAzimuth >> E.dRadius >> E.dRadiusEnd >>
+        E.dParameter >> E.dLength;
+    if (sTurn == "left") E.dRadius = -E.dRadius, E.dRadiusEnd = -E.dRadiusEnd;
+    if (E.sKind == "Spiral" && E.dRadius == 0) E.dRadius = std::copysign(GM::dInfiniteRadius, E.dRadiusEnd);
   }
   return aPlan;
 }
@@ -39,12 +35,12 @@ std::vector<TPlanElement> ReadPlan(const std::filesystem::path& Path) {
 std::string AsMarkedListing(const std::vector<TPlanElement>& aPlan) {
   std::ostringstream Out;
   Out.imbue(std::locale::classic());
-  Out << std::fixed << "*PLT\n";
-  for (std::size_t i = 0; i < aPlan.size(); ++i) {
-    const auto& [sKind, Point, dUnused] = aPlan[i];
-    Out << std::setprecision(6) << Point.dChainage << "," << Point.dX << "," << Point.dY << ","
-        << std::setprecision(8) << Point.dAzimuth << "," << (i > 0 ? aPlan[i - 1].dRadiusEnd : 0) << ","
-        << (i > 0 ? aPlan[i - 1].Start.dParameter : 0) << "\n";
+  Out << std::fixed << std::setprecision(8) << "*PLT\n";
+  TPlanElement Before;
+  for (const auto& E : aPlan) {
+    Out << E.dChainage << "," << E.dX << "," << E.dY << "," << E.dAzimuth << "," << Before.dRadiusEnd << ","
+        << Before.dParameter << "\n";
+    Before = E;
   }
   return Out.str() + "\n";
 }
@@ -62,14 +58,15 @@ TEST_F(OutsidePlans, ComeBackWhereTheyWere) {
     ASSERT_EQ(aHz.size(), aPlan.size());
     for (std::size_t i = 1; i < aHz.size(); ++i) {
       SCOPED_TRACE(i);
-      const THzElement &E = aHz[i], &Plan = aPlan[i - 1].Start, &Next = aPlan[i].Start;
+      const THzElement& E = aHz[i];
+      const TPlanElement &Plan = aPlan[i - 1], &Next = aPlan[i];
       EXPECT_EQ(E.dX, Plan.dX);
       EXPECT_EQ(E.dY, Plan.dY);
       EXPECT_NEAR(E.dLength, Plan.dLength, 2e-6);
       EXPECT_NEAR(E.dRadius, Plan.dRadius, 1e-6);
       EXPECT_NEAR(E.dParameter, Plan.dParameter, 1e-6);
-      if (aPlan[i - 1].sKind == "Spiral") ++nSpirals;
-      if (aPlan[i - 1].sKind != "Curve") continue;
+      if (Plan.sKind == "Spiral") ++nSpirals;
+      if (Plan.sKind != "Curve") continue;
       ++nArcs;
       const auto End = GM::PointOnArc(GM::StartOf(E), E.dRadius, E.dLength, E.dAzimuth * GM::dGonToRadians);
       EXPECT_NEAR(End.dX, Next.dX, 0.002);

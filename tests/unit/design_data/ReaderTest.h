@@ -1,6 +1,8 @@
 // What the tests of the readers share: a listing given as text goes through a file and its entry point.
 #pragma once
 
+#include <sstream>
+
 #include "design_data/Entry.h"
 #include "support/TestApp.h"
 
@@ -34,5 +36,20 @@ class ReaderTest : public AppTest {
 
   bool bRead = false;
 };
+
+/// Sections as text: "chainage: layer offset/height ...;" for each, a layer by its first letter.
+inline std::string Text(const TCrData& Cr) {
+  std::ostringstream Out;
+  Out.imbue(std::locale::classic());
+  for (const auto& Section : Cr.Sections) {
+    Out << Section.dChainage << ":";
+    for (const auto& Surface : Section.Surfaces) {
+      Out << " " << Cr.Layers[Surface.nLayer].sName[0];
+      for (const auto& Point : Surface.Points) Out << " " << Point.dOffset << "/" << Point.dHeight;
+    }
+    Out << ";";
+  }
+  return Out.str();
+}
 
 }  // namespace vrek::test

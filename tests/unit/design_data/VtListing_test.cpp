@@ -6,13 +6,19 @@ namespace {
 
 using VerticalListing = ReaderTest;
 
-void ExpectElement(const TVtElement& E, double dChainage, double dHeight, double dSlope, double dKv,
-                   double dLength) {
-  EXPECT_NEAR(E.dChainage, dChainage, 1e-9);
-  EXPECT_NEAR(E.dHeight, dHeight, 1e-9);
-  EXPECT_NEAR(E.dSlope, dSlope, 1e-12);
-  EXPECT_NEAR(E.dKv, dKv, 1e-6);
-  EXPECT_NEAR(E.dLength, dLength, 1e-9);
+// Elements from 1: number, chainage, height, slope, parameter, length.
+void ExpectElements(const TVtElements& aVt, std::initializer_list<TVtElement> aExpected) {
+  ASSERT_EQ(aVt.size(), aExpected.size() + 1);
+  std::size_t i = 0;
+  for (const TVtElement& Expected : aExpected) {
+    SCOPED_TRACE(++i);
+    EXPECT_EQ(aVt[i].nId, Expected.nId);
+    EXPECT_NEAR(aVt[i].dChainage, Expected.dChainage, 1e-9);
+    EXPECT_NEAR(aVt[i].dHeight, Expected.dHeight, 1e-9);
+    EXPECT_NEAR(aVt[i].dSlope, Expected.dSlope, 1e-12);
+    EXPECT_NEAR(aVt[i].dKv, Expected.dKv, 1e-6);
+    EXPECT_NEAR(aVt[i].dLength, Expected.dLength, 1e-9);
+  }
 }
 
 // Each element ends where the next one starts.
@@ -23,6 +29,7 @@ void ExpectWithoutSteps(const TVtElements& aVt) {
   }
 }
 
+// A vertex keeps its number, also behind an element put in between.
 TEST_F(VerticalListing, MarkedFormBuildsGradesAndCurvesFromVertices) {
   const auto aVt = ReadVt(
       "*ALZ\n"
@@ -31,47 +38,37 @@ TEST_F(VerticalListing, MarkedFormBuildsGradesAndCurvesFromVertices) {
       "600.000,-1.000P,8000.000R\n"
       "900.000,505.000C,0T\n");
   EXPECT_TRUE(bRead);
-  ASSERT_EQ(UpperBound(aVt), 6);
   const double dLast = (505 - 515.09) / 300, dHalf = 4000 * (-0.01 - dLast);
-  ExpectElement(aVt[1], 0, 512.34, 0.025, 0, 190);
-  ExpectElement(aVt[2], 190, 517.09, 0.025, -120 / 0.035, 120);
-  ExpectElement(aVt[3], 310, 517.99, -0.01, 0, 290 - dHalf);
-  ExpectElement(aVt[4], 600 - dHalf, 515.09 + 0.01 * dHalf, -0.01, -8000, 2 * dHalf);
-  ExpectElement(aVt[5], 600 + dHalf, 515.09 + dLast * dHalf, dLast, 0, 300 - dHalf);
-  ExpectElement(aVt[6], 900, 505, 0, 0, 0);
+  ExpectElements(aVt, {{1, 0, 512.34, 0.025, 0, 190},
+                       {2, 190, 517.09, 0.025, -120 / 0.035, 120},
+                       {3, 310, 517.99, -0.01, 0, 290 - dHalf},
+                       {3, 600 - dHalf, 515.09 + 0.01 * dHalf, -0.01, -8000, 2 * dHalf},
+                       {5, 600 + dHalf, 515.09 + dLast * dHalf, dLast, 0, 300 - dHalf},
+                       {6, 900, 505, 0, 0, 0}});
   ExpectWithoutSteps(aVt);
-  // A vertex keeps its number, also behind an element put in between.
-  const int aIds[] = {0, 1, 2, 3, 3, 5, 6};
-  for (std::size_t i = 0; i < aVt.size(); ++i) EXPECT_EQ(aVt[i].nId, aIds[i]) << i;
 }
 
+// Grades of +2 and -2 per cent: a crest with a change of 0.04; the sag mirrors it.
 TEST_F(VerticalListing, MarkedFormTellsCurvesByTheirLetter) {
   struct TCase {
-    const char* sCurve;
+    std::string sCurve;
     double dKv, dLength;
   };
-  // Grades of +2 and -2 per cent: a crest with a change of 0.04; the sag below mirrors it.
-  for (const auto& Case : {TCase{"20T", -1000, 40},
-                           {"-20T", -1000, 40},
-                           {"0.2F", -1000, 40},
-                           {"1000R", -1000, 40},
-                           {"-1000R", -1000, 40},
-                           {"1000X", 0, 0},
-                           {"1000r", 0, 0}}) {
-    const std::string sVertex = std::string(Case.sCurve) + "\n";
-    for (const double dSign : {1.0, -1.0}) {
-      const auto aVt = ReadVt(dSign > 0 ? "*ALZ\n0,10C,0R\n100,12C," + sVertex + "200,10C,0R\n"
-                                        : "*ALZ\n0,10C,0R\n100,8C, " + sVertex + "200,10C ,0R\n");
-      EXPECT_TRUE(bRead) << sVertex;
-      ASSERT_GE(UpperBound(aVt), 3) << sVertex;
-      EXPECT_NEAR(aVt[2].dKv, dSign * Case.dKv, 1e-6) << sVertex;
-      EXPECT_NEAR(aVt[2].dLength, Case.dLength, 1e-9) << sVertex;
-    }
+  const TCase aCases[] = {{"20T", -1000, 40},   {"-20T", -1000, 40},   {"0.2F", -1000, 40},
+                          {"1000R", -1000, 40}, {"-1000R", -1000, 40}, {"1000X", 0, 0},
+                          {"1000r", 0, 0}};
+  for (const auto& [sCurve, dKv, dLength] : aCases) {
+    const auto aCrest = ReadVt("*ALZ\n0,10C,0R\n100,12C," + sCurve + "\n200,10C,0R\n");
+    const auto aSag = ReadVt("*ALZ\n0,10C,0R\n100,8C, " + sCurve + "\n200,10C ,0R\n");
+    EXPECT_NEAR(aCrest.at(2).dKv, dKv, 1e-6) << sCurve;
+    EXPECT_NEAR(aSag.at(2).dKv, -dKv, 1e-6) << sCurve;
+    EXPECT_NEAR(aCrest[2].dLength, dLength, 1e-9) << sCurve;
+    EXPECT_NEAR(aSag[2].dLength, dLength, 1e-9) << sCurve;
   }
 }
 
 TEST_F(VerticalListing, ABlankFirstLineMakesItThePrintedForm) {
-  EXPECT_EQ(UpperBound(ReadVt("\n*ALZ\n0,1C,0T\n1,1C,0T\n")), 0);
+  ExpectElements(ReadVt("\n*ALZ\n0,1C,0T\n1,1C,0T\n"), {});
   EXPECT_FALSE(bRead);
   EXPECT_EQ(UpperBound(ReadVt("\n*ALZ\n==\n\n\n 1 0 9 1.0\n\n a b 5 9 1 c 7.0\n")), 2);
   EXPECT_TRUE(bRead);
@@ -79,19 +76,11 @@ TEST_F(VerticalListing, ABlankFirstLineMakesItThePrintedForm) {
 }
 
 TEST_F(VerticalListing, MarkedFormOfSharpVerticesTakesTheArrivingGrade) {
-  const auto aVt = ReadVt("*ALZ1\nany,1C,1T\n\n0,10C,0T\ncomment\n1,2\n,,100,,11C  ,  0F,x,y\n150,8C,0R\n\n");
+  ExpectElements(ReadVt("*ALZ1\nany,1C,1T\n\n0,10C,0T\ncomment\n1,2\n,,100,,11C  ,  0F,x,y\n150,8C,0R\n\n"),
+                 {{1, 0, 10, 0.01, 0, 100}, {2, 100, 11, 0.01, 0, 50}, {3, 150, 11.5, 0, 0, 0}});
   EXPECT_TRUE(bRead);
-  ASSERT_EQ(UpperBound(aVt), 3);
-  ExpectElement(aVt[1], 0, 10, 0.01, 0, 100);
-  ExpectElement(aVt[2], 100, 11, 0.01, 0, 50);
-  ExpectElement(aVt[3], 150, 11.5, 0, 0, 0);
-}
-
-TEST_F(VerticalListing, MarkedFormTakesAnUnchangedGradeForSharp) {
-  const auto aVt = ReadVt("*ALZ\n0,10C,0T\n100,1P,30T\n200,1P,0T\n");
-  EXPECT_TRUE(bRead);
-  ASSERT_EQ(UpperBound(aVt), 3);
-  ExpectElement(aVt[2], 100, 11, 0.01, 0, 0);
+  ExpectElements(ReadVt("*ALZ\n0,10C,0T\n100,1P,30T\n200,1P,0T\n"),  // no change, no curve
+                 {{1, 0, 10, 0.01, 0, 100}, {2, 100, 11, 0.01, 0, 0}, {3, 100, 11, 0, 0, 0}});
 }
 
 TEST_F(VerticalListing, MarkedFormLetsCurvesTouch) {
@@ -102,85 +91,76 @@ TEST_F(VerticalListing, MarkedFormLetsCurvesTouch) {
   }
 }
 
-TEST_F(VerticalListing, MarkerAloneIsNoListing) {
-  for (const char* sText :
-       {"*ALZ", "*ALZ1\n", "*ALZX\n0,1C,0T\n1,1C,0T\n", "*ALZ \n0,1C,0T\n1,1C,0T\n", "*ALZ\n0,1C,0T\n"}) {
+TEST_F(VerticalListing, WithoutElementsIsNoListing) {
+  for (const char* sText : {"*ALZ", "*ALZ1\n", "*ALZX\n0,1C,0T\n1,1C,0T\n", "*ALZ \n0,1C,0T\n1,1C,0T\n",
+                            "*ALZ\n0,1C,0T\n", "head\n====", "head\n====\n", "=\n"}) {
     ReadVt(sText);
     EXPECT_FALSE(bRead) << sText;
   }
-  EXPECT_EQ(BoxText(), "");
-}
-
-constexpr const char* sHead = "any head\n===== ====\n(line)\n(line)\n";
-
-TEST_F(VerticalListing, PrintedFormReadsBlocksOfThreeLines) {
-  const auto aVt = ReadVt(std::string(sHead) +
-                          " 1  100.000  512.340  2.500\n"
-                          "\n"
-                          " a  b  250.000  516.090  2.500  c  -12000.000\n"
-                          " 2, 490.000, 519.690, 0.500\n"
-                          "\n"
-                          " a  b  600.000  520.240  0.500  c  0.000 \n");
-  EXPECT_TRUE(bRead);
-  ASSERT_EQ(UpperBound(aVt), 4);
-  ExpectElement(aVt[1], 100, 512.34, 0.025, 0, 150);
-  ExpectElement(aVt[2], 250, 516.09, 0.025, -12000, 240);
-  ExpectElement(aVt[3], 490, 519.69, 0.005, 0, 110);
-  ExpectElement(aVt[4], 600, 520.24, 0, 0, 0);
-  ExpectWithoutSteps(aVt);
-  for (std::size_t i = 1; i < aVt.size(); ++i) EXPECT_EQ(aVt[i].nId, static_cast<int>(i));
-}
-
-TEST_F(VerticalListing, PrintedFormDoesNotSeeAFieldOfTheLastCharacterAlone) {
-  const auto aVt = ReadVt(std::string(sHead) + ",1,0,10,1\n\na,b,5,1,1,c,9,\n");
-  ASSERT_EQ(UpperBound(aVt), 2);
-  ExpectElement(aVt[1], 0, 10, 0, 0, 5);  // the gradient is that last character
-}
-
-TEST_F(VerticalListing, PrintedFormGoesOnBehindAPageEnd) {
-  const std::string sFirst = " 1  0  10  1.00\n\n a b 100 11 1.00 c 5000\n 2  150  11.75  2.00\n\n";
-  const std::string sLine3 = " a b 200 12.75 2.00 c 0.0\n";
-  const auto aPlain = ReadVt(sHead + sFirst + sLine3);
-  ASSERT_EQ(UpperBound(aPlain), 4);
-  const auto aPaged =
-      ReadVt(sHead + sFirst + "\fpage 2\nhead\n==\n(line)\n" + sLine3 + " 3 200 12.75 2.0\n\n\f");
-  EXPECT_TRUE(bRead);
-  // The last block's line 3 is the form feed alone: its curve starts, but its grade has no end.
-  ASSERT_EQ(UpperBound(aPaged), 5);
-  for (std::size_t i = 1; i <= 3; ++i) EXPECT_EQ(aPaged[i].dLength, aPlain[i].dLength) << i;
-  ExpectElement(aPaged[4], 200, 12.75, 0.02, 0, 0);
-}
-
-TEST_F(VerticalListing, PrintedFormEndsAtAnEscapeBehindAPageEnd) {
-  const auto aVt =
-      ReadVt(std::string(sHead) +
-             " 1  0  10  1.00\n\n a b 100 11 1.00 c 5000\n 2  150  11.75  2.00\n\n\f\n==\n(line)\n\f\x1B\n"
-             " 9  9  9  9.99\n\n 9 9 9 9 9 9 9.9\n");
-  EXPECT_TRUE(bRead);
-  ASSERT_EQ(UpperBound(aVt), 3);
-  ExpectElement(aVt[2], 100, 11, 0.01, 5000, 50);
-}
-
-TEST_F(VerticalListing, PrintedFormReusesLine3WhereTheFileHasNone) {
-  const auto aVt =
-      ReadVt(std::string(sHead) + " 1  0  10  1.00\n\n a b 100 11 1.00 c 5000\n 2  60  10.6  1.00\n");
-  EXPECT_TRUE(bRead);
-  ASSERT_EQ(UpperBound(aVt), 4);
-  ExpectElement(aVt[2], 100, 11, 0.01, 5000, -40);
-  ExpectElement(aVt[3], 60, 10.6, 0.01, 0, 40);
-}
-
-TEST_F(VerticalListing, PrintedFormWithoutBlocksIsRefused) {
-  for (const char* sText : {"no rule\nline\n", "head\n====", "head\n====\n", "=\n"}) {
-    EXPECT_EQ(UpperBound(ReadVt(sText)), 0) << sText;
+  for (const char* sText : {"", "a\nb\n", "a\nb\n\t0\n\t\n"}) {
+    ReadVt(sText, "a.rtf");
     EXPECT_FALSE(bRead) << sText;
   }
   EXPECT_EQ(BoxText(), "");
-  EXPECT_EQ(UpperBound(ReadVt(std::string(sHead) +
-                              " 1 0 10 1.00\n\n a b 50 10.5 1.0 c 9.0\n 2 70 1 1\n\n\fend\nhead\n")),
-            1)
-      << "what stands before the page end stays";
-  EXPECT_FALSE(bRead);
+}
+
+class PrintedProfile : public ReaderTest {
+ protected:
+  TVtElements ReadBlocks(const std::string& sBlocks) {
+    return ReadVt("any head\n===== ====\n(line)\n(line)\n" + sBlocks);
+  }
+  const std::string sFirst = " 1  0  10  1.00\n\n a b 100 11 1.00 c 5000\n 2  150  11.75  2.00\n\n";
+};
+
+TEST_F(PrintedProfile, IsReadInBlocksOfThreeLines) {
+  const auto aVt = ReadBlocks(
+      " 1  100.000  512.340  2.500\n"
+      "\n"
+      " a  b  250.000  516.090  2.500  c  -12000.000\n"
+      " 2, 490.000, 519.690, 0.500\n"
+      "\n"
+      " a  b  600.000  520.240  0.500  c  0.000 \n");
+  EXPECT_TRUE(bRead);
+  ExpectElements(aVt, {{1, 100, 512.34, 0.025, 0, 150},
+                       {2, 250, 516.09, 0.025, -12000, 240},
+                       {3, 490, 519.69, 0.005, 0, 110},
+                       {4, 600, 520.24, 0, 0, 0}});
+  ExpectWithoutSteps(aVt);
+}
+
+TEST_F(PrintedProfile, DoesNotSeeAFieldOfTheLastCharacterAlone) {
+  ExpectElements(ReadBlocks(",1,0,10,1\n\na,b,5,1,1,c,9,\n"),  // the gradient is that character
+                 {{1, 0, 10, 0, 0, 5}, {2, 5, 10, 0, 0, 0}});
+}
+
+TEST_F(PrintedProfile, GoesOnBehindAPageEnd) {
+  const std::string sLine3 = " a b 200 12.75 2.00 c 0.0\n";
+  ExpectElements(ReadBlocks(sFirst + sLine3), {{1, 0, 10, 0.01, 0, 100},
+                                               {2, 100, 11, 0.01, 5000, 50},
+                                               {3, 150, 11.75, 0.02, 0, 50},
+                                               {4, 200, 12.75, 0, 0, 0}});
+  // The last block's line 3 is the form feed alone: its curve starts, but its grade has no end.
+  const auto aPaged = ReadBlocks(sFirst + "\fpage 2\nhead\n==\n(line)\n" + sLine3 + " 3 200 12.75 2.0\n\n\f");
+  EXPECT_TRUE(bRead);
+  ASSERT_EQ(UpperBound(aPaged), 5);
+  EXPECT_EQ(aPaged[3].dLength, 50);
+  EXPECT_EQ(aPaged[4].dSlope, 0.02);
+  EXPECT_EQ(aPaged[4].dLength, 0);
+}
+
+TEST_F(PrintedProfile, EndsAtAnEscapeBehindAPageEnd) {
+  ExpectElements(ReadBlocks(sFirst + "\f\n==\n(line)\n\f\x1B\n 9  9  9  9.99\n\n 9 9 9 9 9 9 9.9\n"),
+                 {{1, 0, 10, 0.01, 0, 100}, {2, 100, 11, 0.01, 5000, 50}, {3, 150, 11.75, 0, 0, 0}});
+  EXPECT_TRUE(bRead);
+}
+
+TEST_F(PrintedProfile, ReusesLine3WhereTheFileHasNone) {
+  ExpectElements(ReadBlocks(" 1  0  10  1.00\n\n a b 100 11 1.00 c 5000\n 2  60  10.6  1.00\n"),
+                 {{1, 0, 10, 0.01, 0, 100},
+                  {2, 100, 11, 0.01, 5000, -40},
+                  {3, 60, 10.6, 0.01, 0, 40},
+                  {4, 100, 11, 0, 0, 0}});
+  EXPECT_TRUE(bRead);
 }
 
 TEST_F(VerticalListing, TabFormReadsBlocksOfThreeRows) {
@@ -193,27 +173,24 @@ TEST_F(VerticalListing, TabFormReadsBlocksOfThreeRows) {
       "\t\t600.000\t520.990\t-1.000\tx\t0\nx\nx\n",
       "a.rtf");
   EXPECT_TRUE(bRead);
-  ASSERT_EQ(UpperBound(aVt), 4);
-  ExpectElement(aVt[1], 0, 512.34, 0.025, 0, 250);
-  ExpectElement(aVt[2], 250, 518.59, 0.025, -8000, 120);
-  ExpectElement(aVt[3], 370, 520.69, 0.01, 0, 230);  // cut again by the point at 600
-  ExpectElement(aVt[4], 600, 520.99, -0.01, 0, 0);
+  ExpectElements(aVt, {{1, 0, 512.34, 0.025, 0, 250},
+                       {2, 250, 518.59, 0.025, -8000, 120},
+                       {3, 370, 520.69, 0.01, 0, 230},  // cut again by the point at 600
+                       {4, 600, 520.99, -0.01, 0, 0}});
 }
 
+// A grade of 2 per cent into a curve of 100 m. At the end: 10 + 2 + 5000 / Kv.
 TEST_F(VerticalListing, TabFormTakesTheParameterInTheUnitThatFits) {
-  // A grade of 2 per cent into a curve of 100 m. At the end: 10 + 2 + 5000 / Kv.
-  struct TCase {
-    const char *sParameter, *sEndHeight;
-    double dKv;
+  const auto Kv = [&](const std::string& sParameter, const std::string& sEndHeight) {
+    return ReadVt("a\nb\n\t0\n\t\t\t8\t2\n\n\t\t100\t10\t2\t\t" + sParameter + "\n\t\t200\t" + sEndHeight +
+                      "\n\n",
+                  "a.rtf")
+        .at(2)
+        .dKv;
   };
-  for (const auto& Case :
-       {TCase{"12.5", "12.400", 12500}, {"12500", "12.400", 12500}, {"2500", "14.000", 2500}}) {
-    const auto aVt = ReadVt(std::string("a\nb\n\t0\n\t\t\t8\t2\n\n\t\t100\t10\t2\t\t") + Case.sParameter +
-                                "\n\t\t200\t" + Case.sEndHeight + "\n\n",
-                            "a.rtf");
-    ASSERT_EQ(UpperBound(aVt), 2);
-    EXPECT_EQ(aVt[2].dKv, Case.dKv) << Case.sParameter;
-  }
+  EXPECT_EQ(Kv("12.5", "12.400"), 12500);
+  EXPECT_EQ(Kv("12500", "12.400"), 12500);
+  EXPECT_EQ(Kv("2500", "14.000"), 2500);
 }
 
 TEST_F(VerticalListing, TabFormPutsAGradeBetweenCurvesAndDropsAnUnfinishedBlock) {
@@ -223,17 +200,11 @@ TEST_F(VerticalListing, TabFormPutsAGradeBetweenCurvesAndDropsAnUnfinishedBlock)
       "\t\t250\t15\t4\t\t-5000\n\t\t300\t16.75\n\n"
       "\t\t900\t1\t1\n\t\t\t",
       "a.rtf");
-  ASSERT_EQ(UpperBound(aVt), 4);
-  ExpectElement(aVt[3], 200, 13, 0.04, 0, 50);
-  ExpectElement(aVt[4], 250, 15, 0.04, -5000, 50);
+  ExpectElements(aVt, {{1, 0, 8, 0.02, 0, 100},
+                       {2, 100, 10, 0.02, 5000, 100},
+                       {3, 200, 13, 0.04, 0, 50},
+                       {4, 250, 15, 0.04, -5000, 50}});
   ExpectWithoutSteps(aVt);
-}
-
-TEST_F(VerticalListing, TabFormWithoutABlockIsNoListing) {
-  for (const char* sText : {"", "a\nb\n", "a\nb\n\t0\n\t\n"}) {
-    EXPECT_EQ(UpperBound(ReadVt(sText, "a.rtf")), 0) << sText;
-    EXPECT_FALSE(bRead);
-  }
 }
 
 }  // namespace

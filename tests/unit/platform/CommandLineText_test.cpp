@@ -14,8 +14,6 @@ std::string TextOf(std::vector<const char*> aArguments) {
 
 TEST(CommandLineText, JoinsTheArgumentsAndQuotesTheValues) {
   EXPECT_EQ(TextOf({}), "");
-  EXPECT_EQ(TextOf({"-reg"}), "-reg");
-  EXPECT_EQ(TextOf({"-reg", "-o", "/t/info.txt"}), R"(-reg -o "/t/info.txt")");
   EXPECT_EQ(TextOf({"-o", "/my files/a.xml", "-n", "Obra 1"}), R"(-o "/my files/a.xml" -n "Obra 1")");
   EXPECT_EQ(TextOf({"-o", R"("a.xml")", "-n", ""}), R"(-o "a.xml" -n "")");
   EXPECT_EQ(TextOf({"-n", R"(a"b)"}), R"(-n a"b)");

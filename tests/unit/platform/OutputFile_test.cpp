@@ -1,75 +1,66 @@
 #include "platform/OutputFile.h"
 
-#include <gtest/gtest.h>
-
 #include <sys/resource.h>
 
 #include <csignal>
 
 #include "support/OrdinaryUser.h"
-#include "unit/platform/OwnDirectory.h"
+#include "unit/platform/FileTest.h"
 
 namespace vrek {
 namespace {
 
-using test::FailureOf;
-
-class OutputFile : public test::OwnDirectory {};
+class OutputFile : public test::FileTest {};
 
 TEST_F(OutputFile, HoldsAllBytesInTheirOrder) {
   std::string sExpected;
-  auto pFile = CreateOutputFile(Write("out.xml", "what stood there before, longer"));
+  auto pFile = CreateOutputFile(WriteFile("out.xml", "what stood there before, longer"));
   for (std::size_t n : {1u, 1000u, 1u << 20, 3u, (1u << 20) + 1, 5'000'000u, 7u, 0u, 2u}) {
     const std::string sPiece(n, static_cast<char>('a' + n % 26));
     pFile->Write(sPiece);
     sExpected += sPiece;
   }
   pFile->Close();
-  EXPECT_TRUE(Read("out.xml") == sExpected);
+  EXPECT_TRUE(ReadFile(Path("out.xml")) == sExpected);
 }
 
 TEST_F(OutputFile, IsOnDiskAfterFlushAndAfterItsEnd) {
   auto pFile = CreateOutputFile(Path("out.xml"));
   pFile->Write("a");
   pFile->Flush();
-  EXPECT_EQ(Read("out.xml"), "a");
+  EXPECT_EQ(ReadFile(Path("out.xml")), "a");
   pFile->Write("c");
-  EXPECT_EQ(Read("out.xml"), "a");
+  EXPECT_EQ(ReadFile(Path("out.xml")), "a");
   pFile.reset();
-  EXPECT_EQ(Read("out.xml"), "ac");
+  EXPECT_EQ(ReadFile(Path("out.xml")), "ac");
 }
 
 TEST_F(OutputFile, SaysWhyItCannotBeCreated) {
-  Write("plain", "x");
-  EXPECT_EQ(FailureOf([&] { CreateOutputFile(Path("nowhere/out.xml")); }), 76);
-  EXPECT_EQ(FailureOf([&] { CreateOutputFile(Path("plain/out.xml")); }), 76);
-  EXPECT_EQ(FailureOf([&] { CreateOutputFile(Path("")); }), 75);
-  EXPECT_EQ(FailureOf([&] { CreateOutputFile(""); }), 75);
-  EXPECT_EQ(FailureOf([&] { CreateOutputFile(Path("out.xml") + '\0'); }), 75);
-}
-
-TEST_F(OutputFile, NeedsPermission) {
-  std::filesystem::permissions(Write("locked", "x"), std::filesystem::perms::owner_read);
-  const test::OrdinaryUser User(Path(""));
-  EXPECT_EQ(FailureOf([&] { CreateOutputFile(Path("locked")); }), 70);
+  WriteFile("plain", "x");
+  std::filesystem::permissions(WriteFile("locked", "x"), std::filesystem::perms::owner_read);
+  const test::OrdinaryUser User(Directory);
+  const std::pair<std::string, int> aCases[] = {{Path("nowhere/out.xml"), Error::nPathNotFound},
+                                                {Path("plain/out.xml"), Error::nPathNotFound},
+                                                {Path(""), Error::nPathFileAccess},
+                                                {"", Error::nPathFileAccess},
+                                                {Path("out.xml") + '\0', Error::nPathFileAccess},
+                                                {Path("locked"), Error::nPermissionDenied}};
+  for (const auto& [sPath, nNumber] : aCases)
+    EXPECT_EQ(FailureOf([&] { CreateOutputFile(sPath); }), nNumber) << sPath;
 }
 
 TEST_F(OutputFile, AFullDiskIsAFailureWhereverItShows) {
-  const std::string sLarge(2u << 20, 'x');
-  EXPECT_EQ(FailureOf([] {
-              const auto pFile = CreateOutputFile("/dev/full");
-              pFile->Write("x");
-              pFile->Close();
-            }),
-            61);
-  EXPECT_EQ(FailureOf([] {
-              const auto pFile = CreateOutputFile("/dev/full");
-              pFile->Write("x");
-              pFile->Flush();
-            }),
-            61);
-  EXPECT_EQ(FailureOf([&] { CreateOutputFile("/dev/full")->Write(sLarge); }), 61);
-  EXPECT_EQ(FailureOf([] { CreateOutputFile("/dev/full")->Write("the end of its life is quiet"); }), 0);
+  const auto Full = [](const std::string& sBytes, void (IOutputFile::*Finish)()) {
+    return FailureOf([&] {
+      const auto pFile = CreateOutputFile("/dev/full");
+      pFile->Write(sBytes);
+      if (Finish != nullptr) (pFile.get()->*Finish)();
+    });
+  };
+  EXPECT_EQ(Full("x", &IOutputFile::Close), Error::nDiskFull);
+  EXPECT_EQ(Full("x", &IOutputFile::Flush), Error::nDiskFull);
+  EXPECT_EQ(Full(std::string(2u << 20, 'x'), nullptr), Error::nDiskFull);
+  EXPECT_EQ(Full("the end of its life is quiet", nullptr), 0);
 }
 
 TEST_F(OutputFile, DropsWhatFailedAndTriesLaterBytesAfresh) {
@@ -84,10 +75,10 @@ TEST_F(OutputFile, DropsWhatFailedAndTriesLaterBytesAfresh) {
   pFile->Write("lost,");
   const auto nFailure = FailureOf([&] { pFile->Flush(); });
   ::setrlimit(RLIMIT_FSIZE, &Before);
-  EXPECT_EQ(nFailure, 75);
+  EXPECT_EQ(nFailure, Error::nPathFileAccess);
   pFile->Write("last");
   pFile->Close();
-  EXPECT_EQ(Read("out.xml"), "first,last");
+  EXPECT_EQ(ReadFile(Path("out.xml")), "first,last");
 }
 
 }  // namespace

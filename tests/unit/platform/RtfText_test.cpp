@@ -24,11 +24,8 @@ struct TCase {
   const char* sLabel;
   std::string_view sBody;  // behind "{\rtf1", up to and with the closing brace
   const char* sText;
+  friend void PrintTo(const TCase& Case, std::ostream* pOut) { *pOut << Case.sLabel; }
 };
-
-void PrintTo(const TCase& Case, std::ostream* oStream) {
-  *oStream << Case.sLabel;
-}
 
 class RtfBody : public testing::TestWithParam<TCase> {};
 
@@ -97,6 +94,7 @@ constexpr TCase aCodePageCases[] = {
     {"Big5",         "\\ansicpg950 \xA4\xA4",                                              "中"},
     {"UTF-8",        "\\ansicpg65001 \xC3\xA9\xE2\x82\xAC\xF0\x9F\x9A\x84}",               "é€🚄"},
     {"half of two",  R"(\ansicpg932 \'93\par\'93 1\'93{\b x}\'93})",                       "\uFFFD¶\uFFFD 1\uFFFDx\uFFFD"},
+    {"half at the end", R"(\ansicpg932 a\'93)",                                           "a\uFFFD"},
     {"no digits",    R"(\ansi a\'b\'zc\'})",                                               "azc"}};
 
 constexpr TCase aUnicodeCases[] = {

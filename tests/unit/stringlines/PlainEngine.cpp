@@ -17,9 +17,8 @@ struct TGroup {
 };
 
 struct TRecord {
-  int nPoint = 0;
-  TIndexes aCandidates;
-  double dDistance = -9999999.9999;
+  int nPoint = 0, nCandidate = 0;
+  double dDistance = 0;
 };
 
 const TPoint& At(const TPoints& a, int n) {
@@ -29,25 +28,17 @@ TPoint& At(TPoints& a, int n) {
   return a.at(static_cast<std::size_t>(n));
 }
 
-template <class TList, class TMore>
-void BubbleSort(TList& a, TMore More) {
-  for (std::size_t nEnd = a.size(); nEnd > 1; --nEnd) {
-    bool bExchanged = false;
-    for (std::size_t n = 1; n < nEnd; ++n) {
-      if (!More(a[n - 1], a[n])) continue;
-      std::swap(a[n - 1], a[n]);
-      bExchanged = true;
-    }
-    if (!bExchanged) return;
-  }
+template <class TList, class TKey>
+void SortBy(TList& a, TKey Key) {
+  std::stable_sort(a.begin(), a.end(), [&](const auto& L, const auto& R) { return Key(L) < Key(R); });
 }
 
 void SortByOffset(TPoints& a) {
-  BubbleSort(a, [](const TPoint& L, const TPoint& R) { return L.dOffset > R.dOffset; });
+  SortBy(a, [](const TPoint& P) { return P.dOffset; });
 }
 
 void SortByHeight(TIndexes& aIndexes, const TPoints& a) {
-  BubbleSort(aIndexes, [&](int l, int r) { return At(a, l).dHeight > At(a, r).dHeight; });
+  SortBy(aIndexes, [&](int n) { return At(a, n).dHeight; });
 }
 
 std::string NewCode(TLayer& Layer, const TPoint& Point) {
@@ -192,7 +183,7 @@ void NamesByEnds(TRoad& Road, std::size_t i, std::size_t j) {
 TIndexes PointsBetweenCodes(const TPoints& a, const std::string& sA, const std::string& sB) {
   TIndexes aOrder, aTaken;
   for (int n = 0; n < static_cast<int>(a.size()); ++n) aOrder.push_back(n);
-  BubbleSort(aOrder, [&](int l, int r) { return At(a, l).dOffset > At(a, r).dOffset; });
+  SortBy(aOrder, [&](int n) { return At(a, n).dOffset; });
   bool bOn = false;
   for (int n : aOrder) {
     if (At(a, n).sCode == sA) {
@@ -225,14 +216,11 @@ std::vector<TRecord> MatchNearest(const TPoints& T, const TIndexes& t, const TPo
                                   bool bWithContinue) {
   std::vector<TRecord> aRecords;
   for (int p : s) {
-    TRecord Record{p, FindNearest(t, At(S, p).dOffset, T, bWithContinue, true), 0};
-    if (Record.aCandidates.empty()) continue;
-    Record.dDistance = At(S, p).dOffset - At(T, Record.aCandidates[0]).dOffset;
-    aRecords.push_back(Record);
+    const TIndexes aFound = FindNearest(t, At(S, p).dOffset, T, bWithContinue, true);
+    if (aFound.empty()) continue;
+    aRecords.push_back({p, aFound[0], std::abs(At(S, p).dOffset - At(T, aFound[0]).dOffset)});
   }
-  BubbleSort(aRecords, [](const TRecord& L, const TRecord& R) {
-    return std::abs(L.dDistance) > std::abs(R.dDistance);
-  });
+  SortBy(aRecords, [](const TRecord& Record) { return Record.dDistance; });
   return aRecords;
 }
 
@@ -248,10 +236,9 @@ void SeveralToSeveral(TPoints& aThis, const TIndexes& t, const TPoints& aLast, c
   const auto aRecords =
       bEnding ? MatchNearest(aThis, t, aLast, l, false) : MatchNearest(aLast, l, aThis, t, true);
   TIndexes aUsed;
-  for (const TRecord& Record : aRecords) {
-    const int c = Record.aCandidates[0];
-    if (Record.dDistance == -9999999.9999 || std::count(aUsed.begin(), aUsed.end(), c) > 0) continue;
-    At(aThis, bEnding ? c : Record.nPoint).sCode = At(aLast, bEnding ? Record.nPoint : c).sCode;
+  for (const auto& [p, c, dDistance] : aRecords) {
+    if (std::count(aUsed.begin(), aUsed.end(), c) > 0) continue;
+    At(aThis, bEnding ? c : p).sCode = At(aLast, bEnding ? p : c).sCode;
     aUsed.push_back(c);
   }
 }
@@ -420,9 +407,7 @@ void ApplyRules(TRoad& Road, const std::string& sLines, int nFailAt) {
     }
   }
   for (TLayer& Layer : Road.aLayers) {
-    BubbleSort(Layer.aCodes, [](const std::string& L, const std::string& R) {
-      return ST::ParseReal(L) > ST::ParseReal(R);
-    });
+    SortBy(Layer.aCodes, [](const std::string& s) { return ST::ParseReal(s); });
   }
 }
 

@@ -92,6 +92,25 @@ inline std::string CodesOf(const TCrData& Cr, std::size_t nSection, std::size_t 
   return sText;
 }
 
+/// Notes what a routine reports, and fails at one of its steps.
+struct Recorder : IProgress {
+  void Tittle(std::string_view) override {}
+  void Info(std::string_view sText) override { sSteps += "info " + std::string(sText) + "; "; }
+  void ShowCancel(bool) override {}
+  void ShowProgressBar(bool) override {}
+  void SetRanges(double dMin, double dMax) override { sSteps += Step(dMin) + " to " + Step(dMax) + "; "; }
+  void SetValue(double dValue) override {
+    if (dValue == dFailAt) Raise(Error::nOverflow);
+    sSteps += Step(dValue) + "; ";
+  }
+  bool CancelPressed() const override { return false; }
+  void Reset() override {}
+  static std::string Step(double dValue) { return std::to_string(static_cast<int>(dValue)); }
+
+  double dFailAt = -1;
+  std::string sSteps;
+};
+
 /// A road of nSections sections with layers that wander, jump, vanish, return and are listed out of order,
 /// with walls, ties and offsets on the axis. Depends on the seed alone.
 class RandomRoad {
