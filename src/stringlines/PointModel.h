@@ -11,6 +11,7 @@
 #include "base/NotGiven.h"
 #include "records/CrossSections.h"
 #include "shell/ErrHandler.h"
+#include "shell/RepeatedFailures.h"
 
 namespace vrek::CCrSec {
 
@@ -69,7 +70,8 @@ void SortIndexesByOffset(TIndexes& aIndexes, const TPoints& aPoints);
 /// All indexes of a list, in order of offset.
 TIndexes IndexesByOffset(const TPoints& aPoints);
 
-/// Runs a body; its failure goes to the log under the source named, and the result is Fallback.
+/// Runs a body; its failure goes to the log under the source named (once in a loop that CRepeatedFailures
+/// watches), and the result is Fallback.
 template <class TResult, class TBody>
 TResult LogOnFailure(std::string_view sSource, TResult Fallback, TBody&& Body) {
   try {
@@ -77,7 +79,7 @@ TResult LogOnFailure(std::string_view sSource, TResult Fallback, TBody&& Body) {
   } catch (...) {
     Failure Caught = CurrentFailure();
     Caught.sSource = sSource;
-    LogError(Caught);
+    if (CRepeatedFailures::IsNews(Caught)) LogError(Caught);
     return Fallback;
   }
 }

@@ -39,6 +39,7 @@ TEST_F(OutputFile, SaysWhyItCannotBeCreated) {
   WriteFile("plain", "x");
   std::filesystem::permissions(WriteFile("locked", "x"), std::filesystem::perms::owner_read);
   const test::OrdinaryUser User(Directory);
+  if (!User.ReachesFolder()) GTEST_SKIP() << "only root gets here";
   const std::pair<std::string, int> aCases[] = {{Path("nowhere/out.xml"), Error::nPathNotFound},
                                                 {Path("plain/out.xml"), Error::nPathNotFound},
                                                 {Path(""), Error::nPathFileAccess},
