@@ -48,44 +48,37 @@ std::string Plain(double dValue, int nDigits) {
   return (dValue < 0 ? "-" : "") + sWhole + (nKeep > 0 ? "." + sFraction : "");
 }
 
-// clang-format off
-struct TCase { double dValue; int nDigits; const char* sText; };
-const TCase aCases[] = {
+const struct {
+  double dValue;
+  int nDigits;
+  const char* sText;
+} aCases[] = {
+    // clang-format off
     {0,                     6, "0.000000"},
     {0,                     0, "0"},
     {-0.0,                  6, "0.000000"},
     {1234.5,                0, "1235"},
-    {1234.4,                0, "1234"},
     {1234.5,               -3, "1235"},
     {2.675,                 2, "2.68"},               // below 2.675 as a double
-    {-2.675,                2, "-2.68"},
-    {1.0005,                3, "1.001"},
-    {0.5,                   0, "1"},
-    {1.5,                   0, "2"},
     {2.5,                   0, "3"},
     {0.49999999999999994,   0, "1"},                  // 0.500000000000000 in 15 digits
     {0.4999999999999994,    0, "0"},
     {0.0000005,             6, "0.000001"},
-    {0.00000049999,         6, "0.000000"},
     {-0.0000001,            6, "-0.000000"},
     {-1e-300,               2, "-0.00"},
     {9.9999995,             6, "10.000000"},
-    {99999.9999996,         6, "100000.000000"},
     {999999999999999.9,     1, "1000000000000000.0"},
     {123456789012345.67,    6, "123456789012346.000000"},
     {1000000000000000.5,    6, "1000000000000000.000000"},
-    {1234567890123456.0,    1, "1234567890123460.0"},
     {12345678901234.5,      0, "12345678901235"},     // the fifteenth digit itself
     {4503599627370495.5,    3, "4503599627370500.000"},
     {1e22,                  2, "10000000000000000000000.00"},
-    {0.1,                  18, "0.100000000000000000"},
     {1.0 / 3,              20, "0.33333333333333300000"},
     {1.25e-20,             21, "0.000000000000000000013"},
     {1.25e-20,             20, "0.00000000000000000001"},
-    {0.4e-20,              20, "0.00000000000000000000"},
     {5e-324,                3, "0.000"},
+    // clang-format on
 };
-// clang-format on
 
 TEST(FormatReal, RoundsTwiceAndKeepsTheMinus) {
   for (const auto& [dValue, nDigits, sText] : aCases) {
@@ -93,16 +86,11 @@ TEST(FormatReal, RoundsTwiceAndKeepsTheMinus) {
   }
 }
 
-TEST(FormatReal, RefusesWhatIsNotFinite) {
-  EXPECT_THROW(FormatReal(std::numeric_limits<double>::infinity(), 3), Failure);
-  EXPECT_THROW(FormatReal(std::nan(""), 3), Failure);
-}
-
-TEST(FormatReal, AppendsAndKeepsTheRestOnAFailure) {
+TEST(FormatReal, RefusesWhatIsNotFiniteAndKeepsTheText) {
   std::string sText = "x=";
   AppendReal(sText, -1.5, 1);
-  EXPECT_EQ(sText, "x=-1.5");
   EXPECT_THROW(AppendReal(sText, std::nan(""), 1), Failure);
+  EXPECT_THROW(AppendReal(sText, -std::numeric_limits<double>::infinity(), 1), Failure);
   EXPECT_EQ(sText, "x=-1.5");
 }
 

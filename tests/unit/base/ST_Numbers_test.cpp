@@ -21,47 +21,20 @@ std::string Zeros(std::size_t n) {
 // clang-format off
 struct TNumber { std::string sText; double dValue; };
 const TNumber aNumbers[] = {
-    {"1234.5",                                   1234.5},
-    {" -12.500",                                 -12.5},
     {" \t1 2\n3 4 . 5 ",                         1234.5},
     {"+ 5",                                      5},
-    {"-\t5",                                     -5},
-    {".5",                                       0.5},
-    {"5.",                                       5},
     {"-12,5",                                    -12},
-    {"1.2.3",                                    1.2},
-    {"12 m",                                     12},
-    {"12.350_2",                                 12.35},
     {"1\r2",                                     1},
     {std::string("1\0" "2", 3),                  1},
-    {"1e3",                                      1000},
     {"1D3",                                      1000},
-    {"1d-3",                                     0.001},
     {"1 E + 0 3",                                1000},
-    {"1e3.5",                                    1000},
-    {"1e",                                       1},
-    {"1e+",                                      1},
-    {"1e-x",                                     1},
-    {"1ee5",                                     1},
-    {"",                                         0},
-    {"   ",                                      0},
-    {"abc",                                      0},
-    {"-",                                        0},
     {"--5",                                      0},
-    {"+-5",                                      0},
     {".",                                        0},
-    {".e5",                                      0},
-    {"e5",                                       0},
     {"0x10",                                     0},
     {"inf",                                      0},
-    {"nan",                                      0},
     {"1e400",                                    dInfinity},
-    {"-1e400",                                   -dInfinity},
     {"1e99999999999999999999999",                dInfinity},
-    {"1e-400",                                   0},
     {"1e-99999999999999999999999",               0},
-    {"0e99999999999999999999999",                0},
-    {"0." + Zeros(60),                           0},
     {"0." + Zeros(500) + "1e501",                1},
     {"0." + Zeros(500) + "1e400",                1e-101},
     {"1" + Zeros(400) + "e-400",                 1},
@@ -145,18 +118,8 @@ TEST(LeadingNumber, IsCorrectlyRoundedOnNumbersOfAllLengths) {
 
 TEST(NormalizeNumberText, TakesTheLastOfPointAndCommaForTheDecimalSign) {
   const std::pair<std::string, std::string> aCases[] = {
-      {"1,234.50", "1234.50"},
-      {"1.234,50", "1234.50"},
-      {"1234,50", "1234.50"},
-      {"1,234", "1.234"},
-      {"1.234", "1.234"},
-      {"1.234.567,8", "1234567.8"},
-      {"1,234,567", "1.234.567"},
-      {"1,2.3,4", "1.23.4"},
-      {"12+345,6", "12+345.6"},
-      {"1.2,3.4", "1.23.4"},
-      {"", ""},
-      {"abc", "abc"},
+      {"1,234.50", "1234.50"},    {"1.234,50", "1234.50"}, {"1,234", "1.234"}, {"1.234.567,8", "1234567.8"},
+      {"1,234,567", "1.234.567"}, {"1,2.3,4", "1.23.4"},   {"abc", "abc"},
   };
   for (auto [sText, sExpected] : aCases) {
     ST::NormalizeNumberText(sText);
@@ -164,42 +127,34 @@ TEST(NormalizeNumberText, TakesTheLastOfPointAndCommaForTheDecimalSign) {
   }
 }
 
-// clang-format off
-const TNumber aChainages[] = {
-    {"1234.5",          1234.5},
-    {"  -1234.5 ",      -1234.5},
-    {"12+345.678",      12345.678},
-    {"1+23.4",          123.4},          // the metres' own width is the scale
-    {"12-345.678",      11654.322},
-    {"-1+500",          -1500},
-    {"-1-500",          -1500},
-    {"+1+000",          1000},
-    {"1e+5",            15},             // the sign ends the kilometres
-    {"1+",              1},
-    {"1++5.0",          105},
-    {"12.5+100",        12600},
-    {"km 1+500",        500},
-    {"",                0},
-    {"-",               0},
-    {"1e400",           dInfinity},
-};
-// clang-format on
-
-TEST(ParseChainage, ReadsKilometresAndMetres) {
-  for (const auto& [sText, dValue] : aChainages) {
-    std::string s = sText;
-    EXPECT_DOUBLE_EQ(ST::ParseChainage(s), dValue) << sText;
+TEST(ParseChainage, ReadsKilometresAndMetresAndTrimsTheTextInPlace) {
+  const struct {
+    std::string sText, sTrimmed;
+    double dValue;
+  } aCases[] = {
+      // clang-format off
+      {"  -1234.5 ",  "-1234.5",    -1234.5},
+      {"12+345.678",  "12+345.678", 12345.678},
+      {" 1+23.4",     "1+23.4",     123.4},   // the metres' own width is the scale
+      {"12-345.678",  "12-345.678", 11654.322},
+      {"-1+500",      "-1+500",     -1500},
+      {"-1-500 ",     "-1-500",     -1500},
+      {"+1+000",      "+1+000",     1000},
+      {"1e+5",        "1e+5",       15},      // the sign ends the kilometres
+      {"1+",          "1+",         1},
+      {"1++5.0",      "1++5.0",     105},
+      {"12.5+100",    "12.5+100",   12600},
+      {"km 1+500",    "km 1+500",   500},
+      {"   ",         "",           0},
+      {"-",           "-",          0},
+      {"1e400",       "1e400",      dInfinity},
+      // clang-format on
+  };
+  for (const auto& Case : aCases) {
+    std::string s = Case.sText;
+    EXPECT_DOUBLE_EQ(ST::ParseChainage(s), Case.dValue) << Case.sText;
+    EXPECT_EQ(s, Case.sTrimmed);
   }
-}
-
-TEST(ParseChainage, TrimsTheTextInPlace) {
-  for (std::string s : {" 1+500 ", "1+500"}) {
-    ST::ParseChainage(s);
-    EXPECT_EQ(s, "1+500");
-  }
-  std::string sBlanks = "   ";
-  EXPECT_EQ(ST::ParseChainage(sBlanks), 0);
-  EXPECT_EQ(sBlanks, "");
 }
 
 TEST(ParseChainage, FailsBeyondTheDoubles) {

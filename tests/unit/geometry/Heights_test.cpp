@@ -1,4 +1,4 @@
-// Heights where elements meet, and on circular vertical curves.
+// Heights along grades and parabolas, where elements meet, and on circular vertical curves.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -9,7 +9,29 @@
 namespace vrek {
 namespace {
 
-TEST(HeightsOfAProfile, AreThoseOfTheFirstElementThatStartsAtAChainage) {
+TEST(Heights, AlongGradesAndParabolas) {
+  const TVtElements aVt = {
+      {}, {1, 100, 50, 0.02, 0, 50}, {2, 150, 51, 0.02, -2000, 80}, {3, 230, 51, -0.02, 0, 20}};
+  EXPECT_EQ(GM::GetHeightAtChainage({}, 100), 0);
+  EXPECT_EQ(GM::GetHeightAtChainage(aVt, 50), 0);  // before the start: the unused element
+  EXPECT_EQ(GM::GetHeightAtChainage(aVt, 100), 50);
+  EXPECT_NEAR(GM::GetHeightAtChainage(aVt, 125), 50.5, 1e-12);
+  EXPECT_EQ(GM::GetHeightAtChainage(aVt, 150), 51);
+  EXPECT_NEAR(GM::GetHeightAtChainage(aVt, 190), 51.4, 1e-12);
+  EXPECT_NEAR(GM::GetHeightAtChainage(aVt, 220), 51 + 70 * 0.02 - 70.0 * 70 / 4000, 1e-12);
+  EXPECT_NEAR(GM::GetHeightAtChainage(aVt, 300), 51 - 70 * 0.02, 1e-12);
+}
+
+TEST(Heights, BeyondTheMiddleOfAParabolaComeFromItsFarEndToTheLastBit) {
+  const double H = 404.23, s = 0.0123, K = -3300, L = 77.7;
+  for (const double dx : {39.1, 60.1, 76.6}) {
+    const double r = L - dx;
+    EXPECT_EQ(GM::GetHeightInElement({.dHeight = H, .dSlope = s, .dKv = K, .dLength = L}, dx),
+              (H + (L / 2) * s) + (L / 2 - r) * (L / K + s) + r * r / (2 * K));
+  }
+}
+
+TEST(Heights, OfTheFirstElementThatStartsAtAChainage) {
   const TVtElements aVt = {{},
                            {.dChainage = 100, .dHeight = 50},
                            {.dChainage = 300, .dHeight = 66},

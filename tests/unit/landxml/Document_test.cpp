@@ -5,15 +5,10 @@ namespace {
 
 using Document = LandXmlTest;
 
-TEST_F(Document, WithAnEmptyJobHasItsFrame) {
+TEST_F(Document, IsWholeOnceAllItsLinesWentOut) {
   Platform.Time.tm_hour = 15;
   EXPECT_TRUE(CLandXML::TagLandXML(false));
-  EXPECT_TRUE(CLandXML::TagApplication("Mu\xC3\xB1oz"));
-  EXPECT_TRUE(
-      CLandXML::TagProject("V\xC3\xAD"
-                           "a \xC3\xB1 & ~",
-                           "Vrek \xCE\xA9"));
-  EXPECT_TRUE(CLandXML::TagUnits());
+  EXPECT_TRUE(CLandXML::TagProject("\xC3\xB1 & ~", "Vrek \xCE\xA9"));
   EXPECT_TRUE(CLandXML::TagLandXML(true));
   EXPECT_TRUE(CLandXML::WroteWhole());
   EXPECT_EQ(CLandXML::Tabs(), 0);
@@ -21,23 +16,8 @@ TEST_F(Document, WithAnEmptyJobHasItsFrame) {
   EXPECT_TRUE(CLandXML::WroteWhole());
   EXPECT_TRUE(Disk().bClosed);
   EXPECT_EQ(Disk().sPath, "road.xml");
-  // The name as UTF-8, the author in the code page.
-  EXPECT_EQ(
-      Disk().sBytes,
-      CrLf("<LandXML xmlns=\"http://www.landxml.org/schema/LandXML-1.0\" "
-           "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
-           "xsi:schemaLocation=\"http://www.landxml.org/schema/LandXML-1.0 "
-           "http://www.landxml.org/schema/LandXML-1.0/LandXML-1.0.xsd\" version=\"1.0\" "
-           "date=\"2026-01-02\" time=\"15:04:05\" readOnly=\"false\" language=\"english\">\n"
-           "\t<Application name=\"Quennel Converters\" version=\"2.3.0\" manufacturer=\"Branthe AG\" "
-           "manufacturerURL=\"http://www.branthe.example\"><Author createdBy=\"Mu\xF1oz\" /></Application>\n"
-           "\t<Project name=\"V\xC3\xAD"
-           "a \xC3\xB1 & ~\" desc=\"Vrek ?\" />\n"
-           "\t<Units>\n"
-           "\t\t<Metric areaUnit=\"squareMeter\" linearUnit=\"meter\" volumeUnit=\"cubicMeter\" "
-           "temperatureUnit=\"celsius\" pressureUnit=\"HPA\" />\n"
-           "\t</Units>\n"
-           "</LandXML>\n"));
+  EXPECT_EQ(Between(Disk().sBytes, " time=\"", "\""), std::vector<std::string>{"15:04:05"});
+  EXPECT_NE(Disk().sBytes.find("\t<Project name=\"\xC3\xB1 & ~\" desc=\"Vrek ?\" />\r\n"), std::string::npos);
 }
 
 TEST_F(Document, BeginsAtDepthZeroWhateverTheOneBeforeLeft) {
@@ -52,9 +32,9 @@ TEST_F(Document, BeginsAtDepthZeroWhateverTheOneBeforeLeft) {
 }
 
 TEST_F(Document, ThatCannotBeCreatedIsReportedAndGivenUp) {
+  Disk().nCreateFailure = Error::nPathNotFound;
   for (const bool bClose : {false, true}) {
     Platform.aBoxes.clear();
-    Disk().nCreateFailure = Error::nPathNotFound;
     EXPECT_FALSE(CLandXML::TagLandXML(bClose));
     EXPECT_EQ(OnlyBox(), "Unhandler Error in CLandXML.OpenFile\r\nPath not found");
     EXPECT_FALSE(CLandXML::IsOpen());
@@ -67,9 +47,7 @@ TEST_F(Document, TellsTheLineThatCouldNotBeWrittenAndGoesOn) {
   Disk().nRoom = 20;
   EXPECT_TRUE(CLandXML::TagAlignments(false));
   EXPECT_FALSE(CLandXML::TagCrossSects(false, "\xC3\xB1"));
-  EXPECT_EQ(OnlyBox(),
-            "Unhandler Error in CLandXML.WriteLn\r\nDisk full\r\n"
-            "Error to write: '\t<CrossSects name=\"\xC3\xB1\">' in file:road.xml");
+  EXPECT_EQ(OnlyBox(), NotWritten("\t<CrossSects name=\"\xC3\xB1\">"));
   EXPECT_FALSE(CLandXML::WroteWhole());
   EXPECT_EQ(CLandXML::Tabs(), 2) << "the depth follows the calls, not the disk";
   EXPECT_TRUE(CLandXML::IsOpen());
@@ -85,9 +63,7 @@ TEST_F(Document, NeverHidesADiskThatIsFullOnlyWhenFlushed) {
   EXPECT_TRUE(CLandXML::TagLandXML(false));
   EXPECT_TRUE(CLandXML::WroteWhole());
   EXPECT_FALSE(CLandXML::TagLandXML(true));
-  EXPECT_EQ(
-      OnlyBox(),
-      "Unhandler Error in CLandXML.WriteLn\r\nDisk full\r\nError to write: '</LandXML>' in file:road.xml");
+  EXPECT_EQ(OnlyBox(), NotWritten("</LandXML>"));
   EXPECT_FALSE(CLandXML::WroteWhole());
 }
 
@@ -103,9 +79,7 @@ TEST_F(Document, ThatFailsToCloseIsNotWholeButSaysNothing) {
 
 TEST_F(Document, WithoutAnOpenFileTakesNoLine) {
   EXPECT_FALSE(CLandXML::WriteLn("lost"));
-  EXPECT_EQ(OnlyBox(),
-            "Unhandler Error in CLandXML.WriteLn\r\nObject variable or With block variable not set\r\n"
-            "Error to write: 'lost' in file:road.xml");
+  EXPECT_EQ(OnlyBox(), NotWritten("lost", "Object variable or With block variable not set"));
 }
 
 }  // namespace

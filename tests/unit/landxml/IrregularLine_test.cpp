@@ -42,30 +42,31 @@ TEST_F(IrregularLine, OfTwoElementsIsOneBlockWithABlankBehindEachPair) {
 }
 
 TEST_F(IrregularLine, OfOneElementHasNoBlankAtTheEnd) {
-  const std::string sPlan = Plan(Pieces(1));
-  EXPECT_EQ(Between(sPlan, "<PntList2D>", "</PntList2D>"), Strings{"0.000000 5.000000 10.000000 5.000000"});
   // A limit before the only element has no second one to offer.
-  EXPECT_EQ(Plan(Pieces(1), dNotGiven, 50), sPlan);
-  EXPECT_TRUE(bResult);
+  for (const double dTo : {dNotGiven, 50.0}) {
+    EXPECT_EQ(Between(Plan(Pieces(1), dNotGiven, dTo), "<PntList2D>", "</PntList2D>"),
+              Strings{"0.000000 5.000000 10.000000 5.000000"});
+    EXPECT_TRUE(bResult);
+  }
 }
 
 TEST_F(IrregularLine, IsCutIntoBlocksThatShareTheirEndPoints) {
-  struct TCase {
+  const std::string s1 = "100.000000", s25 = "340.000000", s49 = "580.000000";
+  const std::string sY25 = "240.000000 5.000000", sY49 = "480.000000 5.000000";
+  const struct {
     int nElements;
     Strings aStarts, aEnds;
     std::vector<long> aPoints;
-  };
-  const std::string s1 = "100.000000", s25 = "340.000000", s49 = "580.000000";
-  const std::string sY25 = "240.000000 5.000000", sY49 = "480.000000 5.000000";
-  // clang-format off
-  const TCase aCases[] = {
+  } aCases[] = {
+      // clang-format off
       {25, {s1},           {"250.000000 5.000000"},             {26}},
       {26, {s1, s25},      {sY25, "260.000000 5.000000"},       {25, 3}},
       {49, {s1, s25},      {sY25, "490.000000 5.000000"},       {25, 26}},
       {60, {s1, s25, s49}, {sY25, sY49, "600.000000 5.000000"}, {25, 25, 13}},
+      // clang-format on
   };
-  // clang-format on
-  for (const TCase& Case : aCases) {
+  for (const auto& Case : aCases) {
+    SCOPED_TRACE(Case.nElements);
     const std::string sPlan = Plan(Pieces(Case.nElements));
     EXPECT_EQ(Between(sPlan, "staStart=\"", "\""), Case.aStarts);
     EXPECT_EQ(Between(sPlan, "<End>", "</End>"), Case.aEnds);

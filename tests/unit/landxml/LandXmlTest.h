@@ -80,6 +80,12 @@ class LandXmlTest : public AppTest {
     return Platform.aBoxes.size() == 1 ? Platform.aBoxes.front().sText : "several";
   }
 
+  /// What that box says of a line that the file didn't take.
+  static std::string NotWritten(const std::string& sLine, const std::string& sWhy = "Disk full") {
+    return "Unhandler Error in CLandXML.WriteLn\r\n" + sWhy + "\r\nError to write: '" + sLine +
+           "' in file:road.xml";
+  }
+
   /// Every CR has to stand before a LF, and the other way round.
   static std::string WithoutCr(const std::string& sBytes) {
     std::string sOut;

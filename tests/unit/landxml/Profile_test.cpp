@@ -6,21 +6,10 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-// Chainage, height, slope, parameter, length.
-TVtElement Vt(double dChainage, double dHeight, double dSlope, double dKv, double dLength) {
-  return {0, dChainage, dHeight, dSlope, dKv, dLength};
-}
-
-TVtElements From1(std::initializer_list<TVtElement> aElements) {
-  TVtElements aVt(1);
-  aVt.insert(aVt.end(), aElements);
-  return aVt;
-}
-
 // Grades of 100 m each, from chainage 100.
 TVtElements Grades(int nCount) {
   TVtElements aVt(1);
-  for (int i = 1; i <= nCount; ++i) aVt.push_back(Vt(100.0 * i, 50, 0, 0, 100));
+  for (int i = 1; i <= nCount; ++i) aVt.push_back({i, 100.0 * i, 50, 0, 0, 100});
   return aVt;
 }
 
@@ -37,8 +26,11 @@ class Profile : public LandXmlTest {
 };
 
 TEST_F(Profile, HasAPointAtEachStartAndALineForEachCurve) {
-  EXPECT_EQ(Axis(From1({Vt(500, 20, 0.03, -1000, -40), Vt(540, 20.4, -0.01, -1000, 0),
-                        Vt(540, 20.4, -0.01, 0, 460), Vt(1000, 50, 0.02, -5000, 120)})),
+  EXPECT_EQ(Axis({{},
+                  {1, 500, 20, 0.03, -1000, -40},
+                  {2, 540, 20.4, -0.01, -1000, 0},
+                  {3, 540, 20.4, -0.01, 0, 460},
+                  {4, 1000, 50, 0.02, -5000, 120}}),
             "<ProfAlign name=\"\xC3\xB1\">\n"
             "\t<PVI>500.000000 20.000000</PVI>\n"
             "\t<CircCurve length=\"40.000000\" radius=\"-1000.000000\">519.989008 20.599670</CircCurve>\n"
@@ -54,60 +46,56 @@ TEST_F(Profile, HasAPointAtEachStartAndALineForEachCurve) {
 }
 
 TEST_F(Profile, EndsBehindThePointOfACircleWithoutANextGrade) {
-  EXPECT_EQ(Axis(From1({Vt(0, 1, 0.03, 2000, -40)})),
+  EXPECT_EQ(Axis({{}, {1, 0, 1, 0.03, 2000, -40}}),
             "<ProfAlign name=\"\xC3\xB1\">\n\t<PVI>0.000000 1.000000</PVI>\n");
   EXPECT_FALSE(bResult);
   EXPECT_EQ(OnlyBox(), "Unhandler Error in TagProfAlign\r\nSubscript out of range");
 }
 
 TEST_F(Profile, CoversItsLimits) {
-  struct TCase {
+  const auto P = [](int i) { return std::to_string(100 * i) + ".000000 50.000000"; };
+  const struct {
     int nElements;
     double dFrom, dTo;
     Strings aWritten;
     double dStart, dEnd;
-  };
-  const auto P = [](int i) { return std::to_string(100 * i) + ".000000 50.000000"; };
-  // clang-format off
-  const TCase aCases[] = {
-      {5, dNotGiven, dNotGiven, {P(1), P(2), P(3), P(4), P(5)}, 100, 600},
+  } aCases[] = {
+      // clang-format off
       {5, dNotGiven, 350,       {P(1), P(2), P(3), P(4)},       100, 500},
       {5, 200,       500,       {P(2), P(3), P(4), P(5)},       200, 600},
       {5, 50,        60,        {P(1), P(2)},                   100, 300},
       {5, 700,       dNotGiven, {P(5)},                         500, 600},
       {5, 500,       150,       {},                             500, 0},
       {1, 150,       50,        {P(1)},                         100, 200},
+      // clang-format on
   };
-  // clang-format on
-  for (const TCase& Case : aCases) {
+  for (const auto& Case : aCases) {
+    SCOPED_TRACE(std::to_string(Case.dFrom) + " to " + std::to_string(Case.dTo));
     const TVtElements aVt = Grades(Case.nElements);
     EXPECT_EQ(Between(Axis(aVt, Case.dFrom, Case.dTo), "<PVI>", "</PVI>"), Case.aWritten);
     EXPECT_TRUE(bResult);
-    EXPECT_EQ(dStart, Case.dStart) << Case.dFrom << " to " << Case.dTo;
-    EXPECT_EQ(dEnd, Case.dEnd) << Case.dFrom << " to " << Case.dTo;
+    EXPECT_EQ(dStart, Case.dStart);
+    EXPECT_EQ(dEnd, Case.dEnd);
     EXPECT_EQ(Between(StringLine(aVt, Case.dFrom, Case.dTo), "<PVI>", "</PVI>"), Case.aWritten);
     EXPECT_TRUE(bResult);
   }
 }
 
 TEST_F(Profile, OfAStringLineIsPointsAlone) {
-  EXPECT_EQ(StringLine(From1({Vt(500, 20, 0.03, -1000, -40), Vt(540, 20.4, -0.01, 900, 10)})),
-            "<ProfAlign name=\"\xC3\xB1\">\n"
-            "\t<PVI>500.000000 20.000000</PVI>\n"
-            "\t<PVI>540.000000 20.400000</PVI>\n"
-            "</ProfAlign>\n");
+  const std::string sProfile =
+      StringLine({{}, {1, 500, 20, 0.03, -1000, -40}, {2, 540, 20.4, -0.01, 900, 10}});
+  EXPECT_EQ(Between(sProfile, "<PVI>", "</PVI>"), (Strings{"500.000000 20.000000", "540.000000 20.400000"}));
+  EXPECT_EQ(sProfile.find("Curve"), std::string::npos);
   EXPECT_EQ(dStart, -1);
   EXPECT_EQ(dEnd, -1);
 }
 
 TEST_F(Profile, WithoutElementsIsNothingAndWell) {
   for (const TVtElements& aVt : {TVtElements(), TVtElements(1)}) {
-    bResult = false;
     EXPECT_EQ(Axis(aVt, 0, 10), "");
-    EXPECT_TRUE(bResult);
-    bResult = false;
+    EXPECT_TRUE(std::exchange(bResult, false));
     EXPECT_EQ(StringLine(aVt, 0, 10), "");
-    EXPECT_TRUE(bResult);
+    EXPECT_TRUE(std::exchange(bResult, false));
   }
 }
 
@@ -116,9 +104,7 @@ TEST_F(Profile, OfAStringLineSaysWhetherItsClosingLineWentOut) {
   ASSERT_TRUE(CLandXML::OpenFile());
   Disk().nRoom = 60;  // the opening line and the point, not the closing line
   EXPECT_FALSE(CLandXML::TagProfAlignIrrLn(dStart, dEnd, "a", aVt, dNotGiven, dNotGiven));
-  EXPECT_EQ(
-      OnlyBox(),
-      "Unhandler Error in CLandXML.WriteLn\r\nDisk full\r\nError to write: '</ProfAlign>' in file:road.xml");
+  EXPECT_EQ(OnlyBox(), NotWritten("</ProfAlign>"));
 }
 
 }  // namespace

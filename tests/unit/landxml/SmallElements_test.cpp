@@ -17,29 +17,12 @@ TEST_F(SmallElements, WriteOneLineEachAndKeepTheDepth) {
   };
   // clang-format off
   const TCase aCases[] = {
-      {[] { return TagAlignments(false); },                      "\t\t\t<Alignments>\n", 1},
-      {[] { return TagAlignments(true); },                       "\t\t</Alignments>\n", -1},
-      {[] { return TagAlignment(false, "\xC3\xB1", 10, 152.25); }, "\t\t\t<Alignment name=\"\xC3\xB1\" length=\"142.250000\" staStart=\"10.000000\">\n", 1},
       {[] { return TagAlignment(false, "back", 100, -50); },     "\t\t\t<Alignment name=\"back\" length=\"150.000000\" staStart=\"100.000000\">\n", 1},
-      {[] { return TagAlignment(true, "any", 1, 2); },           "\t\t</Alignment>\n", -1},
-      {[] { return TagProfile(false); },                         "\t\t\t<Profile>\n", 1},
-      {[] { return TagProfile(true); },                          "\t\t</Profile>\n", -1},
-      {[] { return TagCrossSects(false, ""); },                  "\t\t\t<CrossSects>\n", 1},
       {[] { return TagCrossSects(false, "a&b"); },               "\t\t\t<CrossSects name=\"a&b\">\n", 1},
-      {[] { return TagCrossSects(true, "a"); },                  "\t\t</CrossSects>\n", -1},
-      {[] { return TagCrossSect(false, "5.0", ""); },            "\t\t\t<CrossSect sta=\"5.0\">\n", 1},
       {[] { return TagCrossSect(false, "5.0", "S"); },           "\t\t\t<CrossSect sta=\"5.0\" name=\"S\">\n", 1},
-      {[] { return TagCrossSect(true, "5.0", "S"); },            "\t\t</CrossSect>\n", -1},
-      {[] { return TagCrossSectSurf(false, ""); },               "\t\t\t<CrossSectSurf name=\"\">\n", 1},
-      {[] { return TagCrossSectSurf(true, "R"); },               "\t\t</CrossSectSurf>\n", -1},
-      {[] { return TagFeature(false, "C", "a,b"); },             "\t\t\t<Feature code=\"C\">a,b\n", 1},
-      {[] { return TagFeature(false, "C", ""); },                "\t\t\t<Feature code=\"C\">\n", 1},
       {[] { return TagFeature(true, "C", "a,b"); },              "\t\t\t<Feature code=\"C\">a,b</Feature>\n", 0},
       {[] { return TagFeature(true, "C", ""); },                 "\t\t</Feature>\n", -1},
-      {[] { return TagProperty("sorted", "NO"); },               "\t\t\t<Property label=\"sorted\" value=\"NO\"/>\n", 0},
       {[] { return TagProperty("sorted", ""); },                 "\t\t\t<Property label=\"sorted\"/>\n", 0},
-      {[] { return WriteTabbed("x"); },                          "\t\t\tx\n", 0},
-      {[] { return WriteLn("x"); },                              "x\n", 0},
   };
   // clang-format on
   for (const TCase& Case : aCases) {

@@ -3,6 +3,7 @@
 #include <bit>
 #include <cmath>
 
+#include "unit/geometry/FailureOf.h"
 #include "unit/rail_tunnel/Tracks.h"
 
 namespace vrek {
@@ -87,24 +88,22 @@ class Generation : public test::TrackTest {
     const auto oSup = std::make_shared<clsSuperelevation>(Table(sRows, bCoPlane));
     for (int n = 2; n <= 3; ++n) CAligmentsDatas::SetAligmentSup(n, oSup);
   }
-  /// The number of the failure, 0 without one.
+  /// The number of the failure before it begins, 0 without one.
   static int NumberOf(double dStep) {
     Panel Progress;
-    try {
-      GenerateVtAligment(2, 1, 2, dStep, Progress, true);
-    } catch (const Failure& Error) {
-      EXPECT_TRUE(Progress.aValues.empty()) << "refused before it begins";
-      return Error.nNumber;
-    }
-    return 0;
+    const int nNumber = test::FailureOf([&] { GenerateVtAligment(2, 1, 2, dStep, Progress, true); });
+    EXPECT_TRUE(Progress.aValues.empty());
+    return nNumber;
   }
 };
+
+constexpr auto aFields = {&TVtElement::dChainage, &TVtElement::dHeight, &TVtElement::dSlope, &TVtElement::dKv,
+                          &TVtElement::dLength};
 
 void ExpectSameBits(const TVtElements& aVt, const TVtElements& aPlain) {
   ASSERT_EQ(aVt.size(), aPlain.size());
   for (std::size_t i = 0; i < aVt.size(); ++i) {
-    for (const auto pField : {&TVtElement::dChainage, &TVtElement::dHeight, &TVtElement::dSlope,
-                              &TVtElement::dKv, &TVtElement::dLength}) {
+    for (const auto pField : aFields) {
       ASSERT_EQ(std::bit_cast<std::uint64_t>(aVt[i].*pField), std::bit_cast<std::uint64_t>(aPlain[i].*pField))
           << i;
     }
@@ -120,7 +119,7 @@ TEST_F(Generation, GivesThePlainOnesResultToTheLastBit) {
         const int nSource = bCoPlane ? 1 : 5 - nTarget;
         const auto aPlain = PlainGeneration(nTarget, nSource, nTarget, 0.5, nSource == 1);
         EXPECT_GT(aPlain.size(), 2000u);
-        NoProgress Progress;
+        Panel Progress;
         EXPECT_TRUE(GenerateVtAligment(nTarget, nSource, nTarget, 0.5, Progress, nSource == 1));
         ExpectSameBits(CAligmentsDatas::GetAligmentVt(nTarget), aPlain);
         if (!bCoPlane) break;
@@ -143,29 +142,24 @@ TEST_F(Generation, SamplesAfreshAtEachElementAndBridgesGaps) {
   // 100 lies before the target; then 104, 108, 110 and 114.
   const auto& aVt = CAligmentsDatas::GetAligmentVt(2);
   ASSERT_EQ(aVt.size(), 5u);
-  const double aExpected[][4] = {{2.8, 5.4, 4, 0.1}, {6.8, 5.8, 2, 0.1}, {8.8, 6, 4, 0.1}, {12.8, 6.4, 0, 0}};
+  const TVtElement aExpected[] = {
+      {1, 2.8, 5.4, 0.1, 0, 4}, {2, 6.8, 5.8, 0.1, 0, 2}, {3, 8.8, 6, 0.1, 0, 4}, {4, 12.8, 6.4, 0, 0, 0}};
   for (std::size_t i = 0; i < 4; ++i) {
-    EXPECT_NEAR(aVt[i + 1].dChainage, aExpected[i][0], 1e-9);
-    EXPECT_NEAR(aVt[i + 1].dHeight, aExpected[i][1], 1e-9);
-    EXPECT_NEAR(aVt[i + 1].dLength, aExpected[i][2], 1e-9);
-    EXPECT_NEAR(aVt[i + 1].dSlope, aExpected[i][3], 1e-9);
-    EXPECT_EQ(aVt[i + 1].dKv, 0);
+    for (const auto pField : aFields) EXPECT_NEAR(aVt[i + 1].*pField, aExpected[i].*pField, 1e-9) << i;
   }
 }
 
-TEST_F(Generation, MovesTheHeightOverTheCommonPlane) {
-  CAligmentsDatas::SetAligmentHz(1, test::PlanMaker(0, 0, 0, 0).Line(10).Elements());
-  CAligmentsDatas::SetAligmentHz(3, test::PlanMaker(4, 0, 0, 0).Line(10).Elements());
-  SetLevel(1, 20);
-  CAligmentsDatas::SetAligmentSup(3,
-                                  std::make_shared<clsSuperelevation>(Table(Row(0, 90, "leftRail"), true)));
-  NoProgress Progress;
-  // The plane rises to the right by 90 mm over 1.5 m along it; from the centre half the cant goes off.
-  EXPECT_TRUE(GenerateVtAligment(3, 1, 3, 5, Progress, true));
-  const double dRise = 4 * 0.09 / std::sqrt(1.5 * 1.5 - 0.09 * 0.09);
-  EXPECT_NEAR(CAligmentsDatas::GetAligmentVt(3)[1].dHeight, 20 + dRise - 0.045, 1e-12);
-  EXPECT_TRUE(GenerateVtAligment(3, 1, 3, 5, Progress, false));
-  EXPECT_NEAR(CAligmentsDatas::GetAligmentVt(3)[1].dHeight, 20 + dRise, 1e-12);
+TEST_F(Generation, AgainstTheTargetsDirectionTakesTheGradesBackwards) {
+  CAligmentsDatas::SetAligmentHz(1, test::PlanMaker(0, 0, 0, 100).Line(10).Elements());
+  CAligmentsDatas::SetAligmentHz(2, test::PlanMaker(3, 50, 200, 0).Line(60).Elements());
+  CAligmentsDatas::SetAligmentVt(1, {{}, {.nId = 1, .dChainage = 100, .dHeight = 5, .dSlope = 0.1}});
+  CAligmentsDatas::SetAligmentSup(2, std::make_shared<clsSuperelevation>());
+  Panel Progress;
+  EXPECT_TRUE(GenerateVtAligment(2, 1, 2, 4, Progress, true));
+  const auto& First = CAligmentsDatas::GetAligmentVt(2).at(1);
+  EXPECT_NEAR(First.dChainage, 50, 1e-9);
+  EXPECT_NEAR(First.dLength, -4, 1e-9);
+  EXPECT_NEAR(First.dSlope, 0.1, 1e-9);
 }
 
 TEST_F(Generation, StoresNothingWhenCancelled) {
@@ -180,17 +174,15 @@ TEST_F(Generation, StoresNothingWhenCancelled) {
 
 TEST_F(Generation, RefusesStepsThatLeadNowhereAndEndlessSources) {
   SetTracks(false);
-  const double aSteps[] = {0, -0.5, 1e-13, 1e-5, std::nan("")};
-  for (const double dStep : aSteps) EXPECT_EQ(NumberOf(dStep), Error::nOverflow) << dStep;
+  for (const double dStep : {0.0, -0.5, 1e-13, 1e-5, std::nan("")}) {
+    EXPECT_EQ(NumberOf(dStep), Error::nOverflow) << dStep;
+  }
   const double dHuge = 9007199254740992;  // 2^53, from where on neighbours lie 2 apart
-  const struct {
-    double dChainage, dLength;
-  } aSources[] = {{0, 1e7 + 1},  {dHuge, 10},     {dHuge / 2 + 1, 10},
-                  {0, INFINITY}, {-INFINITY, 10}, {1e300, 1e300}};
-  for (const auto& Source : aSources) {
-    CAligmentsDatas::SetAligmentHz(
-        1, {{}, {.nId = 1, .dChainage = Source.dChainage, .dLength = Source.dLength}});
-    EXPECT_EQ(NumberOf(0.5), Error::nOverflow) << Source.dChainage << " " << Source.dLength;
+  const std::pair<double, double> aSources[] = {{0, 1e7 + 1},  {dHuge, 10},     {dHuge / 2 + 1, 10},
+                                                {0, INFINITY}, {-INFINITY, 10}, {1e300, 1e300}};
+  for (const auto& [dChainage, dLength] : aSources) {
+    CAligmentsDatas::SetAligmentHz(1, {{}, {.nId = 1, .dChainage = dChainage, .dLength = dLength}});
+    EXPECT_EQ(NumberOf(0.5), Error::nOverflow) << dChainage << " " << dLength;
   }
 }
 
@@ -200,8 +192,8 @@ TEST_F(Generation, LetsFailuresRise) {
   EXPECT_EQ(NumberOf(0.5), Error::nSubscript);
   CAligmentsDatas::SetAligmentHz(1, Line(0, 0, 1000));
   CAligmentsDatas::SetAligmentSup(2, nullptr);
-  NoProgress Progress;
-  EXPECT_THROW(GenerateVtAligment(2, 1, 2, 0.5, Progress, true), Failure);
+  Panel Progress;
+  EXPECT_EQ(test::FailureOf([&] { GenerateVtAligment(2, 1, 2, 0.5, Progress, true); }), Error::nObjectNotSet);
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 #include <cmath>
-#include <random>
 
 #include "unit/rail_tunnel/Tracks.h"
 
@@ -8,18 +7,36 @@ namespace {
 
 constexpr double dGauge = 1.435, dBase = 1.5, dZ = 100;
 
+struct TRails {
+  bool bFound = false;
+  double d = 1, dLeft = 2, dRight = 3;
+};
+
 class Rails : public test::TrackTest {
  protected:
   Rails() {
     SetLevel(1, dZ);
-    // A plan whose radius at station 10 is the one wanted.
     SetRadius(0);
   }
+  /// Plans whose radius is the one wanted, up to chainage 15.
   static void SetRadius(double dRadius) {
-    THzElements aHz(2);
-    aHz[1].dRadius = dRadius;
-    aHz[1].dLength = 1000;
-    for (int n = 1; n <= 3; ++n) CAligmentsDatas::SetAligmentHz(n, aHz);
+    for (int n = 1; n <= 3; ++n) {
+      CAligmentsDatas::SetAligmentHz(n, {{},
+                                         {.nId = 1, .dRadius = dRadius, .dLength = 15},
+                                         {.nId = 2, .dChainage = 15, .dRadius = -dRadius, .dLength = 100}});
+    }
+  }
+  TRails At(const clsSuperelevation& Cant, double dChainage, int nAligment = 1,
+            std::string_view sStringLine = {}) {
+    TRails Found;
+    Found.bFound = Cant.ComputeRails(Found.d, Found.dLeft, Found.dRight, nAligment, dChainage, sStringLine);
+    return Found;
+  }
+  /// A height of dZ moved to a track over the plane at chainage 10.
+  double Moved(const clsSuperelevation& Cant, int nAligment, double dDistance, bool bFromCentre) {
+    double dHeight = dZ;
+    EXPECT_TRUE(Cant.CalcHeightVtAligmentCoplane(nAligment, 10, dDistance, dHeight, bFromCentre));
+    return dHeight;
   }
 };
 
@@ -29,152 +46,97 @@ double SeenFromAbove(double dRise) {
   return 0.5 * dGauge * std::cos(std::asin(dRise / dBase));
 }
 
-TEST_F(Rails, FollowTheRotationPointAndTheCurve) {
+TEST_F(Rails, AndThePlaneFollowTheRotationPointAndTheCurveAtTheRowsStation) {
   constexpr double c = 0.080;
   const struct {
-    const char* sRotationPoint;
-    double dRadius, dRise, dLeft, dRight;
+    std::string sRow;
+    double dRadius, dRise, dLeft, dRight;  // of the plane over the base, of the rails above the axis
+    int nWay;                              // -1: the left side lies lower, 1: the right side, 0: level
   } aCases[] = {
       // clang-format off
-      {"leftRail",       0, c,      0,      c},
-      {"leftRail",     500, c,      0,      c},
-      {"rightRail",      0, c,      c,      0},
-      {"rightRail",   -500, c,      c,      0},
-      {"insideRail",     0, 0,      0,      0},
-      {"insideRail",   500, c,      c,      0},
-      {"insideRail",  -500, c,      0,      c},
-      {"outsideRail",    0, 0,      0,      0},
-      {"outsideRail",  500, c,      0,      c},
-      {"outsideRail", -500, c,      c,      0},
-      {"center",         0, 0,      0,      0},
-      {"center",       500, c,  c / 2, -c / 2},
-      {"center",      -500, c, -c / 2,  c / 2},
+      {Row(10, 80, "leftRail"),       0, c,      0,      c, -1},
+      {Row(10, 80, "rightRail"),   -500, c,      c,      0,  1},
+      {Row(10, 80, "insideRail"),     0, 0,      0,      0,  0},
+      {Row(10, 80, "insideRail"),   500, c,      c,      0,  1},
+      {Row(10, 80, "insideRail"),  -500, c,      0,      c, -1},
+      {Row(10, 80, "outsideRail"),    0, 0,      0,      0,  0},
+      {Row(10, 80, "outsideRail"),  500, c,      0,      c, -1},
+      {Row(10, 80, "outsideRail"), -500, c,      c,      0,  1},
+      {Row(10, 80, "center"),         0, 0,      0,      0,  0},
+      {Row(10, 80, "center"),       500, c,  c / 2, -c / 2,  1},
+      {Row(10, 80, "center"),      -500, c, -c / 2,  c / 2, -1},
       // clang-format on
   };
+  const double dDistance = 4, dRise = dDistance * c / std::sqrt(dBase * dBase - c * c);
   for (const auto& Case : aCases) {
+    SCOPED_TRACE(Case.sRow + " in " + std::to_string(Case.dRadius));
     SetRadius(Case.dRadius);
-    double d = -1, dLeft = -1, dRight = -1;
-    EXPECT_TRUE(Table(Row(10, 80, Case.sRotationPoint)).ComputeRails(d, dLeft, dRight, 1, 15));
-    const std::string sLabel = Case.sRotationPoint + std::string(" ") + std::to_string(Case.dRadius);
-    EXPECT_NEAR(d, SeenFromAbove(Case.dRise), 1e-14) << sLabel;
-    EXPECT_EQ(dLeft, dZ + Case.dLeft) << sLabel;
-    EXPECT_EQ(dRight, dZ + Case.dRight) << sLabel;
+    const auto Cant = Table(Case.sRow);
+    const TRails Found = At(Cant, 50);  // where the curve is another one
+    EXPECT_TRUE(Found.bFound);
+    EXPECT_NEAR(Found.d, SeenFromAbove(Case.dRise), 1e-14);
+    EXPECT_EQ(Found.dLeft, dZ + Case.dLeft);
+    EXPECT_EQ(Found.dRight, dZ + Case.dRight);
+    for (const bool bFromCentre : {false, true}) {
+      const double dMove = bFromCentre ? dRise - c / 2 : dRise;
+      EXPECT_NEAR(Moved(Cant, 2, -dDistance, bFromCentre), dZ + Case.nWay * dMove, 1e-12);
+      EXPECT_NEAR(Moved(Cant, 3, dDistance, bFromCentre), dZ - Case.nWay * dMove, 1e-12);
+      EXPECT_EQ(Moved(Cant, 1, dDistance, bFromCentre), dZ);
+    }
   }
 }
 
-TEST_F(Rails, LieAGaugeApartOnTheTiltedPlane) {
-  std::mt19937 Random(7);
-  std::uniform_int_distribution<int> Lift(-300, 300);
-  for (int n = 0; n < 200; ++n) {
-    const int l = Lift(Random), r = Lift(Random);
-    double d = 0, dLeft = 0, dRight = 0;
-    ASSERT_TRUE(Table(Row(10, l, r)).ComputeRails(d, dLeft, dRight, 1, 10));
-    // The plane's slope from the heights over the base, then the distance of the two points upon it.
-    const double dSin = (dRight - dLeft) / dBase;
-    EXPECT_NEAR(std::hypot(2 * d, dGauge * dSin), dGauge, 1e-12) << l << " " << r;
-    EXPECT_NEAR(dLeft - dZ, l * 0.001, 1e-12);
+TEST_F(Rails, AndThePlaneFollowTheLiftsOfBoth) {
+  for (const auto& [nLeft, nRight] : {std::pair(-20, 40), std::pair(300, -250), std::pair(70, 70)}) {
+    const auto Cant = Table(Row(10, nLeft, nRight));
+    const double dRise = (nRight - nLeft) * 0.001;
+    const TRails Found = At(Cant, 10);
+    EXPECT_NEAR(Found.d, SeenFromAbove(dRise), 1e-14) << nLeft;
+    EXPECT_EQ(Found.dLeft, dZ + nLeft * 0.001);
+    EXPECT_EQ(Found.dRight, dZ + nRight * 0.001);
+    EXPECT_NEAR(Moved(Cant, 2, 4, false), dZ - 4 * std::fabs(dRise) / dBase, 1e-12) << nLeft;
+    EXPECT_NEAR(Moved(Cant, 3, 4, false), dZ + 4 * std::fabs(dRise) / dBase, 1e-12) << nLeft;
   }
 }
 
 TEST_F(Rails, TakeTheRowWithoutInterpolation) {
   const auto Cant = Table(Row(10, 0, "leftRail") + Row(20, 80, "leftRail"));
-  double d = 0, dLeft = 0, dRight = 0;
-  EXPECT_TRUE(Cant.ComputeRails(d, dLeft, dRight, 1, 19.999));
-  EXPECT_EQ(dRight, dZ);
-  EXPECT_NEAR(d, 0.7175, 1e-15);
-  EXPECT_TRUE(Cant.ComputeRails(d, dLeft, dRight, 1, 500));
-  EXPECT_EQ(dRight, dZ + 0.080) << "beyond the table";
-}
-
-TEST_F(Rails, TakeTheRadiusAtTheRowsStation) {
-  THzElements aHz(3);
-  aHz[1] = {.nId = 1, .dRadius = 500, .dLength = 15};
-  aHz[2] = {.nId = 2, .dChainage = 15, .dRadius = -500, .dLength = 100};
-  CAligmentsDatas::SetAligmentHz(1, aHz);
-  double d = 0, dLeft = 0, dRight = 0;
-  Table(Row(10, 80, "insideRail")).ComputeRails(d, dLeft, dRight, 1, 50);
-  EXPECT_EQ(dLeft, dZ + 0.080);
+  EXPECT_EQ(At(Cant, 19.999).dRight, dZ);
+  EXPECT_NEAR(At(Cant, 19.999).d, dGauge / 2, 1e-15);
+  EXPECT_EQ(At(Cant, 500).dRight, dZ + 0.080) << "beyond the table";
 }
 
 TEST_F(Rails, StayAsTheyWereWhereARowSetsNothing) {
   const auto Cant = Table(Row(10, 80, "platformAxis"));
-  double d = 1, dLeft = 2, dRight = 3;
-  EXPECT_FALSE(Cant.ComputeRails(d, dLeft, dRight, 1, 9.999)) << "before the table";
-  EXPECT_TRUE(Cant.ComputeRails(d, dLeft, dRight, 1, 10));
-  EXPECT_EQ(std::vector({d, dLeft, dRight}), std::vector({1.0, 2.0, 3.0}));
-  EXPECT_TRUE(Platform.aBoxes.empty());
+  EXPECT_FALSE(At(Cant, 9.999).bFound) << "before the table";
+  const TRails Found = At(Cant, 10);
+  EXPECT_TRUE(Found.bFound);
+  EXPECT_EQ(std::vector({Found.d, Found.dLeft, Found.dRight}), std::vector({1.0, 2.0, 3.0}));
+  EXPECT_EQ(Moved(Cant, 2, 4, false), dZ);
+  EXPECT_EQ(Boxes(), "");
 }
 
 TEST_F(Rails, ReportACantBeyondItsBase) {
-  double d = 0, dLeft = 0, dRight = 0;
-  EXPECT_FALSE(Table(Row(10, 1501, "leftRail")).ComputeRails(d, dLeft, dRight, 1, 10));
+  EXPECT_FALSE(At(Table(Row(10, 1501, "leftRail")), 10).bFound);
   EXPECT_EQ(Boxes(), "Unhandler Error in ComputeRails\r\nInvalid procedure call or argument|");
 }
 
 TEST_F(Rails, TakeTheHeightFromProfileOrStringline) {
   const auto Cant = Table(Row(10, 0, "leftRail"));
-  double d = 0, dLeft = 0, dRight = 0;
-  Cant.ComputeRails(d, dLeft, dRight, 2, 10);
-  EXPECT_EQ(dLeft, 0) << "no profile";
-  TStringLines StrLn;
-  StrLn.nCount = 1;
-  StrLn.Lines.resize(2);
-  StrLn.Lines[1].sName = "axis";
-  StrLn.Lines[1].Vt = {{}, {.nId = 1, .dHeight = 7, .dSlope = 0.1, .dLength = 100}};
-  CAligmentsDatas::SetAligmentStrLn(2, StrLn);
-  Cant.ComputeRails(d, dLeft, dRight, 2, 10, "axis");
-  EXPECT_EQ(dLeft, 8);
-  Cant.ComputeRails(d, dLeft, dRight, 2, 10, "another");
-  EXPECT_EQ(dLeft, 0);
+  EXPECT_EQ(At(Cant, 10, 2).dLeft, 0) << "no profile";
+  SetStringLine(2, {}, {{}, {.nId = 1, .dHeight = 7, .dSlope = 0.1, .dLength = 100}});
+  EXPECT_EQ(At(Cant, 10, 2, "axis").dLeft, 8);
+  EXPECT_EQ(At(Cant, 10, 2, "another").dLeft, 0);
   SetLevel(2, 50);
-  Cant.ComputeRails(d, dLeft, dRight, 2, 10, "axis");
-  EXPECT_EQ(dLeft, 50);
+  EXPECT_EQ(At(Cant, 10, 2, "axis").dLeft, 50);
 }
 
-class CantPlane : public Rails {};
-
-TEST_F(CantPlane, FallsTowardsTheLowerRail) {
-  constexpr double c = 0.090, dDistance = 4;
-  // The plane rises by c over the base; dWay -1: the left side lies lower, +1: the right side, 0: level.
-  const struct {
-    const char* sRotationPoint;
-    double dRadius;
-    int nWay;
-  } aCases[] = {
-      {"insideRail", 500, 1},   {"insideRail", -500, -1}, {"insideRail", 0, 0}, {"outsideRail", 500, -1},
-      {"outsideRail", -500, 1}, {"outsideRail", 0, 0},    {"center", 500, 1},   {"center", -500, -1},
-      {"center", 0, 0},         {"leftRail", 0, -1},      {"rightRail", 0, 1},  {"platformAxis", 500, 0},
-  };
-  const double dRise = dDistance * c / std::sqrt(dBase * dBase - c * c);  // along the plane, seen from above
-  for (const auto& Case : aCases) {
-    SetRadius(Case.dRadius);
-    const auto Cant = Table(Row(10, 90, Case.sRotationPoint));
-    for (const bool bFromCentre : {false, true}) {
-      const double dMove = bFromCentre ? dRise - c / 2 : dRise;
-      double dLeft = dZ, dRight = dZ, dOther = dZ;
-      EXPECT_TRUE(Cant.CalcHeightVtAligmentCoplane(2, 10, -dDistance, dLeft, bFromCentre));
-      EXPECT_TRUE(Cant.CalcHeightVtAligmentCoplane(3, 10, dDistance, dRight, bFromCentre));
-      EXPECT_TRUE(Cant.CalcHeightVtAligmentCoplane(1, 10, dDistance, dOther, bFromCentre));
-      EXPECT_NEAR(dLeft, dZ + Case.nWay * dMove, 1e-12) << Case.sRotationPoint << Case.dRadius;
-      EXPECT_NEAR(dRight, dZ - Case.nWay * dMove, 1e-12) << Case.sRotationPoint << Case.dRadius;
-      EXPECT_EQ(dOther, dZ);
-    }
-  }
-}
-
-TEST_F(CantPlane, FollowsTheLiftsOfBothRails) {
-  double dLeft = dZ, dRight = dZ;
-  // Left rail 60 mm below the right one: the plane rises to the right by 60 mm over the base.
-  Table(Row(10, -20, 40)).CalcHeightVtAligmentCoplane(2, 10, 4, dLeft, false);
-  Table(Row(10, -20, 40)).CalcHeightVtAligmentCoplane(3, 10, 4, dRight, false);
-  EXPECT_NEAR(dLeft, dZ - 4 * 0.060 / dBase, 1e-12);
-  EXPECT_NEAR(dRight, dZ + 4 * 0.060 / dBase, 1e-12);
-}
+using CantPlane = Rails;
 
 TEST_F(CantPlane, LeavesTheHeightBeforeTheTableAndOnAFailure) {
   double dHeight = dZ;
   EXPECT_FALSE(Table(Row(10, 90, "leftRail")).CalcHeightVtAligmentCoplane(2, 9, 4, dHeight, true));
-  EXPECT_TRUE(Platform.aBoxes.empty());
+  EXPECT_EQ(Boxes(), "");
   EXPECT_FALSE(Table(Row(10, 1600, "leftRail")).CalcHeightVtAligmentCoplane(2, 10, 4, dHeight, true));
   EXPECT_EQ(dHeight, dZ);
   EXPECT_EQ(Boxes(),

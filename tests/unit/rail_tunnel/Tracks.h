@@ -88,6 +88,16 @@ class TrackTest : public AppTest {
   static void SetLevel(int nAligment, double dHeight) {
     CAligmentsDatas::SetAligmentVt(nAligment, {{}, {.nId = 1, .dHeight = dHeight, .dLength = 100000}});
   }
+  /// A stringline "axis" in place of the plan or profile that an alignment lacks.
+  static void SetStringLine(int nAligment, const THzElements& aHz, const TVtElements& aVt) {
+    TStringLines Lines;
+    Lines.nCount = 1;
+    Lines.Lines.resize(2);
+    Lines.Lines[1].sName = "axis";
+    Lines.Lines[1].Hz = aHz;
+    Lines.Lines[1].Vt = aVt;
+    CAligmentsDatas::SetAligmentStrLn(nAligment, Lines);
+  }
   std::string Boxes() const {
     std::string sText;
     for (const auto& Box : Platform.aBoxes) sText += Box.sText + "|";
