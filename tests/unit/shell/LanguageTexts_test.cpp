@@ -1,6 +1,5 @@
 // The language files that go with the program: every token of the sources has its text in each of them.
 #include <algorithm>
-#include <regex>
 #include <set>
 
 #include "shell/LanguageFile.h"
@@ -17,15 +16,23 @@ class LanguageTexts : public test::AppTest, public ::testing::WithParamInterface
     Platform.sProgramDirectory = VREK_LANGUAGE_FOLDER;
     EXPECT_TRUE(File.ReadFile(GetParam()));
   }
+  static bool IsToken(std::string_view sText) {
+    constexpr std::string_view aKinds[] = {"BT_",  "LBL_", "FR_", "OPT_", "TXT_",
+                                           "CMD_", "T_",   "E_",  "WIN_", "WARN_"};
+    return std::any_of(std::begin(aKinds), std::end(aKinds),
+                       [&](std::string_view sKind) { return sText.starts_with(sKind); });
+  }
   /// "BT_BACK", "E_CH" ... in quotes in the sources.
   static std::multiset<std::string> TokensOfTheSources() {
-    static const std::regex Token("\"((BT|LBL|FR|OPT|TXT|CMD|T|E|WIN|WARN)_[A-Z0-9_]+)\"");
     std::set<std::string> aFound;
     for (const auto& Entry : fs::recursive_directory_iterator(VREK_LANGUAGE_FOLDER "/../src")) {
       if (Entry.path().extension() != ".cpp" && Entry.path().extension() != ".h") continue;
       const auto sText = ReadFile(Entry.path());
-      for (std::sregex_iterator it(sText.begin(), sText.end(), Token), End; it != End; ++it) {
-        aFound.insert((*it)[1]);
+      for (auto n = sText.find('"'); n != std::string::npos; n = sText.find('"', n + 1)) {
+        const auto nEnd = sText.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ_0123456789", n + 1);
+        if (nEnd == std::string::npos || sText[nEnd] != '"') continue;
+        const auto sQuoted = sText.substr(n + 1, nEnd - n - 1);
+        if (IsToken(sQuoted)) aFound.insert(sQuoted);
       }
     }
     return {aFound.begin(), aFound.end()};

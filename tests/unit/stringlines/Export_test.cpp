@@ -2,8 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <regex>
-
 #include "Roads.h"
 #include "landxml/CLandXML.h"
 #include "support/TestApp.h"
@@ -41,32 +39,37 @@ class Export : public AppTest {
   double dChStart = -1, dChEnd = -1;
 };
 
-// Each stretch of a text that a pattern finds in brackets, a blank behind each.
-std::string Found(const std::string& sText, const char* sPattern) {
+// What stands on one line between an opening and its end, a blank behind each.
+std::string Between(const std::string& sText, std::string_view sOpening, std::string_view sEnd) {
   std::string sFound;
-  const std::regex Pattern(sPattern);
-  for (std::sregex_iterator it(sText.begin(), sText.end(), Pattern), End; it != End; ++it) {
-    for (std::size_t n = 1; n < it->size(); ++n) sFound += (*it)[n].str() + " ";
+  for (auto n = sText.find(sOpening); n != std::string::npos; n = sText.find(sOpening, n + 1)) {
+    const auto nStart = n + sOpening.size();
+    const auto sPart = sText.substr(nStart, sText.find(sEnd, nStart) - nStart);
+    if (sPart.find('\n') == std::string::npos) sFound += sPart + " ";
   }
   return sFound;
 }
 
 std::string Stations(const std::string& sText) {
-  return Found(sText, "sta=\"(\\d+)");
+  return Between(sText, "sta=\"", ".");
 }
 
+// "Name L1:3,C3:3 ..."
 std::string Features(const std::string& sText) {
-  return Found(sText, "QN Vertex (\\w+)\">(.*)</Feature>");
+  auto sFound = Between(sText, "QN Vertex ", "</Feature>");
+  for (std::size_t n = 0; (n = sFound.find("\">")) != std::string::npos;) sFound.replace(n, 2, " ");
+  return sFound;
 }
 
 // Tags and indents are held against the plain engine.
 TEST_F(Export, WritesPointsLabelsAndConnections) {
   const std::string sText = Written(
       Ruled({"-3.5/10 0/10.1 3.5/10", "-3.5/10.2 3.5/10.2 5/9.8", "-3.5/10.4 3.5/10.4"}), "$Rasante$");
-  EXPECT_EQ(Found(sText, "sta=\"(.*)\"|<PntList2D>(.*)</PntList2D>"),
-            "100.000000   -3.500000 10.000000 0.000000 10.100000 3.500000 10.000000 "
-            "120.000000   -3.500000 10.200000 3.500000 10.200000 5.000000 9.800000 "
-            "140.000000   -3.500000 10.400000 3.500000 10.400000 ");
+  EXPECT_EQ(Between(sText, "sta=\"", "\""), "100.000000 120.000000 140.000000 ");
+  EXPECT_EQ(Between(sText, "<PntList2D>", "</PntList2D>"),
+            "-3.500000 10.000000 0.000000 10.100000 3.500000 10.000000 "
+            "-3.500000 10.200000 3.500000 10.200000 5.000000 9.800000 "
+            "-3.500000 10.400000 3.500000 10.400000 ");
   EXPECT_EQ(Features(sText),
             "Name L1:3,C3:3,R5:3 "
             "Name L1:3,R5:3,R6:3 Interpolate L1:3,L1:3,R5:3,R5:3 "

@@ -1,5 +1,6 @@
 // Controls of the pages by themselves: boxes, lists, panels.
 #include "WizardTest.h"
+#include "wizard/clsWizard.h"
 
 namespace vrek {
 namespace {
@@ -135,6 +136,32 @@ TEST_F(PageControls, RailsDrawTheMarkedTrack) {
     if (aShapes[n].nColor == 255) sRed += std::to_string(n) + " ";
   }
   EXPECT_EQ(sRed, "5 10 ") << "the axis and the right rail of the second track";
+}
+
+// Pages and parts of pages that no job shows today.
+TEST_F(PageControls, VersionsSelectTheDefault) {
+  ctlPreferences Page;
+  EXPECT_FALSE(Page.RefreshDefaultVersion());
+  Page.AddVersion("1.0");
+  Page.AddVersion("2.0");
+  Page.DefaultVersion = "2.0";
+  EXPECT_TRUE(Page.RefreshDefaultVersion());
+  EXPECT_EQ(Page.Version(), "2.0");
+  Page.DefaultVersion = "3.0";
+  EXPECT_FALSE(Page.RefreshDefaultVersion());
+  EXPECT_EQ(Page.Version(), "1.0");
+}
+
+TEST_F(PageControls, DetailsPageFillsWhatIsEmpty) {
+  InitFormats(4);
+  Window.Load();
+  clsWizard Logic(Window);
+  Window.ctlDetails.Description() = "mine";
+  EXPECT_TRUE(Logic.IntroPage(ePageDetails));
+  EXPECT_EQ(Window.ctlDetails.RoadDataName(), "out");
+  EXPECT_EQ(Window.ctlDetails.Description(), "mine");
+  EXPECT_EQ(Window.ctlDetails.Creator(), "tester");
+  EXPECT_FALSE(Window.ctlDetails.cmbVersion.Visible);
 }
 
 }  // namespace

@@ -183,5 +183,12 @@ TEST_F(Wizard, ClosingTheWindowUnloads) {
   Window.cmdBack_Click();
 }
 
+TEST_F(Wizard, PagesCanBeTakenOut) {
+  Open();
+  Window.DeletePage(4);
+  Window.DeleteLastPage();
+  EXPECT_EQ(Window.Pages(), (std::vector<int>{0, 1, 3, 5}));
+}
+
 }  // namespace
 }  // namespace vrek
