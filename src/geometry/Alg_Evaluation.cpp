@@ -79,15 +79,17 @@ bool IsFinite(const THzPoint& Point) {
   return std::isfinite(Point.dX) && std::isfinite(Point.dY) && std::isfinite(Point.dAzimuth);
 }
 
-// The last element that starts at or before a chainage; of several that start right there, the first.
+// The last element that starts at or before a chainage; where several start right there, in whatever order
+// the chainages stand, the first of those.
 int ElementToEvaluate(const THzElements& aHz, double dChainage) {
-  int i = 1;
-  for (int k = 2; k <= UpperBound(aHz); ++k) {
-    const double dStart = aHz[static_cast<std::size_t>(k)].dChainage;
-    const bool bSameStart = dStart == dChainage && aHz[static_cast<std::size_t>(i)].dChainage == dChainage;
-    if (dStart <= dChainage && !bSameStart) i = k;
+  int nLast = 1, nFirstThere = 0, nThere = 0;
+  for (int i = 1; i <= UpperBound(aHz); ++i) {
+    const double dStart = aHz[static_cast<std::size_t>(i)].dChainage;
+    if (dStart > dChainage) continue;
+    nLast = i;
+    if (dStart == dChainage && ++nThere == 1) nFirstThere = i;
   }
-  return i;
+  return nThere > 1 ? nFirstThere : nLast;
 }
 
 THzPoint PointInElement(const THzElements& aHz, int i, double dChainage) {

@@ -126,6 +126,14 @@ TEST_F(Evaluation, TakesTheFirstOfElementsThatStartAtTheChainageAndTheLastBehind
   ASSERT_TRUE(Alg::GetCoordFromHzAligment(aHz, 12, Point));
   EXPECT_EQ(Point.dX, 2);
   EXPECT_EQ(Point.dY, 12);
+  // Out of order, too, and with another start between them.
+  ASSERT_TRUE(Alg::GetCoordFromHzAligment({{},
+                                           {.dLength = 100},
+                                           {.dChainage = 100, .dX = 1},
+                                           {.dChainage = 50, .dX = 2},
+                                           {.dChainage = 100, .dX = 3}},
+                                          100, Point));
+  EXPECT_EQ(Point.dX, 1);
 }
 
 TEST_F(Evaluation, ReportsAChainageBeforeTheStartAndLeavesThePoint) {
