@@ -12,30 +12,28 @@
 namespace vrek::fuzz {
 namespace {
 
-template <class TElements>
-void ReadUnopened(bool (*Import)(TElements&, const std::string&), std::string_view sBytes) {
+void ReadHz(bool (*Import)(THzElements&, const std::string&), std::string_view sBytes) {
   Surroundings Around;
-  TElements aElements;
-  const bool bRead = Import(aElements, MemoryFile(sBytes).Path());
-  Require(!bRead || aElements.size() >= 2);
+  THzElements aHz;
+  const bool bRead = Import(aHz, MemoryFile(sBytes).Path());
+  Require(!bRead || aHz.size() >= 2);
 }
 
-template <class TElements>
-void ReadOpened(bool (*Import)(TElements&, CListing&), std::string_view sBytes) {
+void ReadVt(bool (*Import)(TVtElements&, CListing&), std::string_view sBytes) {
   Surroundings Around;
-  TElements aElements;
+  TVtElements aVt;
   const bool bRead = Guard("Fuzz", false, [&] {
     CListing Listing(MemoryFile(sBytes).Path());
-    return !Listing.AtEnd() && Import(aElements, Listing);
+    return !Listing.AtEnd() && Import(aVt, Listing);
   });
-  Require(!bRead || aElements.size() >= 2);
+  Require(!bRead || aVt.size() >= 2);
 }
 
 void RequireUsable(bool bRead, const TCrData& Cr) {
   Require(!bRead || Cr.Sections.size() >= 2);
 }
 
-void ReadSections(bool (*Import)(TCrData&, CListing&), std::string_view sBytes) {
+void ReadCr(bool (*Import)(TCrData&, CListing&), std::string_view sBytes) {
   Surroundings Around;
   TCrData Cr;
   RequireUsable(Guard("Fuzz", false,
@@ -49,37 +47,40 @@ void ReadSections(bool (*Import)(TCrData&, CListing&), std::string_view sBytes) 
 }  // namespace
 
 void HzMarked(std::string_view sBytes) {
-  ReadUnopened<THzElements>(Entry::ImportHzMarked, sBytes);
+  ReadHz(Entry::ImportHzMarked, sBytes);
 }
 
 void HzTabbed(std::string_view sBytes) {
-  ReadUnopened<THzElements>(Entry::ImportHzTabbed, sBytes);
+  ReadHz(Entry::ImportHzTabbed, sBytes);
 }
 
 void VtMarked(std::string_view sBytes) {
-  ReadOpened<TVtElements>(Entry::ImportVtMarked, sBytes);
+  ReadVt(Entry::ImportVtMarked, sBytes);
 }
 
 void VtPrinted(std::string_view sBytes) {
-  ReadOpened<TVtElements>(Entry::ImportVtPrinted, sBytes);
+  ReadVt(Entry::ImportVtPrinted, sBytes);
 }
 
 void VtTabbed(std::string_view sBytes) {
-  ReadUnopened<TVtElements>(Entry::ImportVtTabbed, sBytes);
+  Surroundings Around;
+  TVtElements aVt;
+  const bool bRead = Entry::ImportVtTabbed(aVt, sBytes);
+  Require(!bRead || aVt.size() >= 2);
 }
 
 void CrMarked(std::string_view sBytes) {
-  ReadSections(Entry::ImportCrMarked, sBytes);
+  ReadCr(Entry::ImportCrMarked, sBytes);
 }
 
 void CrPrinted(std::string_view sBytes) {
-  ReadSections(Entry::ImportCrPrinted, sBytes);
+  ReadCr(Entry::ImportCrPrinted, sBytes);
 }
 
 void CrTabbed(std::string_view sBytes) {
   Surroundings Around;
   TCrData Cr;
-  RequireUsable(Entry::ImportCrTabbed(Cr, MemoryFile(sBytes).Path()), Cr);
+  RequireUsable(Entry::ImportCrTabbed(Cr, sBytes), Cr);
 }
 
 void RtfText(std::string_view sBytes) {

@@ -64,10 +64,10 @@ void ReadRows(std::string_view sText, TCrData& Cr) {
 
 }  // namespace
 
-bool ImportCrTabbed(TCrData& Cr, const std::string& sFilename) {
+bool ImportCrTabbed(TCrData& Cr, std::string_view sRtf) {
   return Guard("ImportCrTabbed", false, [&] {
     CovertData::StartCr(Cr);
-    ReadRows(ReadRtfFile(sFilename), Cr);
+    ReadRows(RtfToText(sRtf), Cr);
     return Cr.Sections.size() >= 2;
   });
 }

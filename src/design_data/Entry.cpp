@@ -2,6 +2,7 @@
 
 #include "base/ST.h"
 #include "design_data/ListingReaders.h"
+#include "platform/TextFile.h"
 #include "shell/ErrHandler.h"
 
 namespace vrek::Entry {
@@ -20,7 +21,10 @@ bool ImportHzAligment(THzElements& aHz, const std::string& sFilename) {
 
 bool ImportVtAligment(TVtElements& aVt, const std::string& sFilename) {
   return Guard("ImportVtAligment", false, [&] {
-    if (IsRtf(sFilename)) return ImportVtTabbed(aVt, sFilename);
+    if (IsRtf(sFilename)) {
+      const std::string sRtf = ReadWholeFile(sFilename);
+      return !sRtf.empty() && ImportVtTabbed(aVt, sRtf);
+    }
     CListing Listing(sFilename);
     if (Listing.AtEnd()) return false;
     return Listing.BeginsWith("*ALZ") ? ImportVtMarked(aVt, Listing) : ImportVtPrinted(aVt, Listing);
@@ -29,7 +33,10 @@ bool ImportVtAligment(TVtElements& aVt, const std::string& sFilename) {
 
 bool ImportCrAligment(TCrData& Cr, const std::string& sFilename) {
   return Guard("ImportCrAligment", false, [&] {
-    if (IsRtf(sFilename)) return ImportCrTabbed(Cr, sFilename);
+    if (IsRtf(sFilename)) {
+      const std::string sRtf = ReadWholeFile(sFilename);
+      return !sRtf.empty() && ImportCrTabbed(Cr, sRtf);
+    }
     CListing Listing(sFilename);
     if (Listing.AtEnd()) return false;
     return Listing.BeginsWith("*TRV") ? ImportCrMarked(Cr, Listing) : ImportCrPrinted(Cr, Listing);

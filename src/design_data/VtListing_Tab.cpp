@@ -65,15 +65,15 @@ void TakeBlock(CTabRow& A, CTabRow& B, double& dCurveEndHeight, TVtElements& aVt
   const double dParameter = A.Number(7);
   const bool bBehindCurve = IsCurve(aVt.back());
   ReachPlace(aVt, Place, dCurveEndHeight);
-  TVtElement Element{0, Place.dChainage, Place.dHeight, Place.dSlope, 0, 0};
   if (dParameter != 0) {
-    Element.dLength = Checked::Finite(B.Chainage(3) - Place.dChainage);
+    const double dLength = Checked::Finite(B.Chainage(3) - Place.dChainage);
     dCurveEndHeight = B.Number(4);
-    Element.dKv = ChooseKv(Element, dParameter, dCurveEndHeight);
-  } else if (bBehindCurve) {
-    return;  // the grade behind the curve is all
+    // Appended before its parameter is tried: the range of what was read counts even where the trial fails.
+    AppendVtElement(aVt, {0, Place.dChainage, Place.dHeight, Place.dSlope, dParameter, dLength});
+    aVt.back().dKv = ChooseKv(aVt.back(), dParameter, dCurveEndHeight);
+  } else if (!bBehindCurve) {
+    AppendVtElement(aVt, {0, Place.dChainage, Place.dHeight, Place.dSlope, 0, 0});
   }
-  AppendVtElement(aVt, Element);
 }
 
 void ReadBlocks(std::string_view sText, TVtElements& aVt) {
@@ -91,10 +91,10 @@ void ReadBlocks(std::string_view sText, TVtElements& aVt) {
 
 }  // namespace
 
-bool ImportVtTabbed(TVtElements& aVt, const std::string& sFilename) {
+bool ImportVtTabbed(TVtElements& aVt, std::string_view sRtf) {
   return Guard("ImportVtTabbed", false, [&] {
     aVt.assign(1, {});
-    ReadBlocks(ReadRtfFile(sFilename), aVt);
+    ReadBlocks(RtfToText(sRtf), aVt);
     return UpperBound(aVt) >= 1;
   });
 }

@@ -21,7 +21,7 @@ bool Read(const std::string& sPath) {
   TVtElements aVt;
   TCrData Cr;
   if (sForm == ".plt") return Entry::ImportHzAligment(aHz, sPath);
-  return sForm == ".alz" ? Entry::ImportVtAligment(aVt, sPath) : Entry::ImportCrAligment(Cr, sPath);
+  return sForm == ".trv" ? Entry::ImportCrAligment(Cr, sPath) : Entry::ImportVtAligment(aVt, sPath);
 }
 
 TEST_P(BadListing, IsRefused) {
@@ -46,6 +46,8 @@ const TBadFile aBadFiles[] = {
     {"NoSuchFile.plt",                 "ImportHzMarked",   "File not found", ""},
     {"NoSuchFile.alz",                 "ImportVtAligment", "File not found", ""},
     {"NoSuchFile.trv",                 "ImportCrAligment", "File not found", ""},
+    {"NoSuchFile.rtf",                 "ImportVtAligment", "File not found", ""},
+    {"Empty.rtf",                      nullptr,            "",         ""},
     {"Empty.plt",                      "ImportHzMarked",   sPastEnd,   ""},
     {"Empty.alz",                      nullptr,            "",         ""},
     {"Empty.trv",                      nullptr,            "",         ""},

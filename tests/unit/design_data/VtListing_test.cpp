@@ -207,5 +207,21 @@ TEST_F(VerticalListing, TabFormPutsAGradeBetweenCurvesAndDropsAnUnfinishedBlock)
   ExpectWithoutSteps(aVt);
 }
 
+TEST_F(VerticalListing, TabFormKeepsTheCurveWhoseParameterCantBeTried) {
+  const auto aVt = ReadVt("a\nb\n\t0\n\t\t\t8\t2\n\n\t\t300\t14\t2\t\t0.5\n\t\t250\t13\n\n", "a.rtf");
+  EXPECT_FALSE(bRead);
+  EXPECT_NE(BoxText().find("ImportVtTabbed"), std::string::npos);
+  ExpectElements(aVt, {{1, 0, 8, 0.02, 0, 300}, {2, 300, 14, 0.02, 0.5, -50}});
+}
+
+TEST_F(VerticalListing, AnEmptyOrMissingFileLeavesNoElementAtAll) {
+  for (const char* sName : {"a.alz", "a.rtf"}) {
+    EXPECT_TRUE(ReadVt("", sName).empty()) << sName;
+    TVtElements aVt;
+    EXPECT_FALSE(Entry::ImportVtAligment(aVt, std::string("missing/") + sName));
+    EXPECT_TRUE(aVt.empty()) << sName;
+  }
+}
+
 }  // namespace
 }  // namespace vrek::test
