@@ -8,17 +8,22 @@
 
 namespace {
 
-// Half a document is worth nothing: it goes, an earlier one stays, and the program ends by the signal.
+// Half a document is worth nothing: it goes, an earlier one stays, and the program ends by the signal as soon
+// as this is left.
 extern "C" void EndBySignal(int nSignal) {
   vrek::RemoveLeftovers();
+  ::signal(nSignal, SIG_DFL);
   ::raise(nSignal);
 }
 
 void CatchSignals() {
+  // A limit of the file size is told like a full disk.
+  ::signal(SIGXFSZ, SIG_IGN);
   struct sigaction Action {};
   Action.sa_handler = EndBySignal;
-  Action.sa_flags = static_cast<int>(SA_RESETHAND | SA_NODEFER);
-  for (const int nSignal : {SIGTERM, SIGINT, SIGHUP}) {
+  // Whoever ends a program may do it twice (once to it, once to its group): the second waits for the first.
+  for (const int nSignal : vrek::aEndingSignals) ::sigaddset(&Action.sa_mask, nSignal);
+  for (const int nSignal : vrek::aEndingSignals) {
     struct sigaction Before {};
     // nohup and the like have a signal ignored on purpose.
     if (::sigaction(nSignal, nullptr, &Before) == 0 && Before.sa_handler == SIG_IGN) continue;

@@ -18,6 +18,7 @@ struct TState {
   std::unique_ptr<IOutputFile> pFile;  // the open file; empty when none is open
   int nTabs = 0;                       // current depth: tabs in front of a line of WriteTabbed
   bool bWhole = false;                 // every line since OpenFile has been taken by the file
+  bool bRefusalTold = false;           // a line that the file didn't take has been reported
 };
 
 TState m_State;
@@ -34,7 +35,8 @@ IOutputFile& File() {
   return *m_State.pFile;
 }
 
-// Runs a body that sends sText to the file; a failure tells the line and the file.
+// Runs a body that sends sText to the file. A failure tells the line (of several, the first) and the file,
+// once: on a full disk each piece that the file gathers would fail anew.
 template <class TBody>
 bool Send(std::string_view sText, TBody Body) {
   return Guard("CLandXML.WriteLn", false, [&] {
@@ -43,9 +45,10 @@ bool Send(std::string_view sText, TBody Body) {
       return true;
     } catch (...) {
       m_State.bWhole = false;
+      if (std::exchange(m_State.bRefusalTold, true)) return false;
       Failure Caught = CurrentFailure();
       Caught.sDescription.append("\r\nError to write: '")
-          .append(sText)
+          .append(sText.substr(0, sText.find("\r\n")))
           .append("' in file:")
           .append(m_State.sFile);
       throw Caught;

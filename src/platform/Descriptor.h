@@ -43,6 +43,7 @@ inline std::int32_t FailureNumber(int nErrno) {
       return Error::nPermissionDenied;
     case ENOSPC:
     case EDQUOT:
+    case EFBIG:
       return Error::nDiskFull;
     case ENOMEM:
       return Error::nOutOfMemory;

@@ -1,7 +1,6 @@
 #include "platform/StagedFile.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/stat.h>
 
 #include <array>
@@ -97,7 +96,7 @@ class SignalsHeld {
   SignalsHeld() {
     sigset_t Ending;
     ::sigemptyset(&Ending);
-    for (const int nSignal : {SIGTERM, SIGINT, SIGHUP}) ::sigaddset(&Ending, nSignal);
+    for (const int nSignal : aEndingSignals) ::sigaddset(&Ending, nSignal);
     ::pthread_sigmask(SIG_BLOCK, &Ending, &m_Before);
   }
   SignalsHeld(const SignalsHeld&) = delete;

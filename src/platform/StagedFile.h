@@ -2,9 +2,14 @@
 // renamed when it is whole. A crash leaves the target as it was.
 #pragma once
 
+#include <csignal>
 #include <string>
 
 namespace vrek {
+
+/// The signals by which people, shells and batch queues end a program that may still tidy up.
+inline constexpr int aEndingSignals[] = {SIGTERM, SIGINT,  SIGHUP,  SIGQUIT, SIGPIPE,
+                                         SIGXCPU, SIGALRM, SIGUSR1, SIGUSR2};
 
 class StagedFile {
  public:

@@ -74,7 +74,9 @@ std::string HeaderLine() {
 void AppendToLog(std::string_view sEntry) {
   const std::string sPath = GetTempDirectory() + std::string(Configuration::sLogFile);
   const std::string sBytes = CodePage::FromUtf8(sEntry);
-  const Descriptor File(::open(sPath.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666));
+  // Without waiting for whoever would read a pipe of this name.
+  const int nFlags = O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK;
+  const Descriptor File(::open(sPath.c_str(), nFlags, 0666));
   if (File.Get() < 0) Raise(FailureNumber(errno));
   const ssize_t nWritten = ::write(File.Get(), sBytes.data(), sBytes.size());
   if (nWritten < 0) Raise(FailureNumber(errno));

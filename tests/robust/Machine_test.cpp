@@ -2,6 +2,7 @@
 // that don't do what they should.
 #include <gmock/gmock.h>
 #include <sys/mount.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "Projects.h"
@@ -110,6 +111,14 @@ TEST_F(InputFault, WithoutALogABrokenFileIsToldAllTheSame) {
     SCOPED_TRACE(sExample);
     Run(Project);
   }
+}
+
+TEST_F(InputFault, APipeInPlaceOfTheLogIsNotWaitedFor) {
+  ::setenv("TMPDIR", Folder.c_str(), 1);
+  ASSERT_EQ(::mkfifo((Folder / "KTVO_Converters.log").c_str(), 0600), 0);
+  auto Project = ReadExample("rail");
+  Project.aFiles[0] = "*PLT\r\n1,2\r\n";
+  Run(Project);
 }
 
 TEST_F(InputFault, AnInstallationWithoutTextsOrLogIsWrongUsage) {

@@ -2,6 +2,7 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 
 #include <algorithm>
@@ -51,7 +52,8 @@ class Ended : public ProjectTest {
     return nChild;
   }
 
-  /// Sends the signal as soon as the new document is on its way; gives the child's wait status.
+  /// Sends the signal, twice as some do, as soon as the new document is on its way; gives the child's wait
+  /// status.
   int EndInTheMiddle(int nSignal) {
     LayOutLongRoad();
     const pid_t nChild = Start();
@@ -61,6 +63,7 @@ class Ended : public ProjectTest {
       std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
     ::kill(nChild, nSignal);
+    ::kill(nChild, nSignal);
     ::waitpid(nChild, &nStatus, 0);
     return nStatus;
   }
@@ -69,13 +72,29 @@ class Ended : public ProjectTest {
 };
 
 TEST_F(Ended, ByAPleaLeavesTheEarlierDocumentAndNothingElse) {
-  for (const int nSignal : {SIGTERM, SIGINT, SIGHUP}) {
+  for (const int nSignal : {SIGTERM, SIGINT, SIGHUP, SIGQUIT, SIGPIPE, SIGXCPU}) {
     const int nStatus = EndInTheMiddle(nSignal);
     ASSERT_TRUE(WIFSIGNALED(nStatus)) << nStatus;
     EXPECT_EQ(WTERMSIG(nStatus), nSignal);
     EXPECT_TRUE(Strays().empty());
     EXPECT_EQ(ReadBytes(Output()), "earlier");
   }
+}
+
+TEST_F(Ended, ByNoLimitOfTheFileSizeButToldOfIt) {
+  LayOutLongRoad();
+  rlimit Before{};
+  ::getrlimit(RLIMIT_FSIZE, &Before);
+  const rlimit Small{100'000, Before.rlim_max};
+  ::setrlimit(RLIMIT_FSIZE, &Small);
+  const pid_t nChild = Start();
+  ::setrlimit(RLIMIT_FSIZE, &Before);
+  int nStatus = 0;
+  ASSERT_EQ(::waitpid(nChild, &nStatus, 0), nChild);
+  ASSERT_TRUE(WIFEXITED(nStatus)) << nStatus;
+  EXPECT_EQ(WEXITSTATUS(nStatus), batch::eNotWritten);
+  EXPECT_TRUE(Strays().empty());
+  EXPECT_EQ(ReadBytes(Output()), "earlier");
 }
 
 TEST_F(Ended, ByForceLeavesTheEarlierDocumentAndTheNextRunWorks) {

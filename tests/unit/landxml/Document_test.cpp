@@ -47,6 +47,7 @@ TEST_F(Document, TellsTheLineThatCouldNotBeWrittenAndGoesOn) {
   Disk().nRoom = 20;
   EXPECT_TRUE(CLandXML::TagAlignments(false));
   EXPECT_FALSE(CLandXML::TagCrossSects(false, "\xC3\xB1"));
+  EXPECT_FALSE(CLandXML::WriteLn("a line\r\nand another that isn't taken either"));
   EXPECT_EQ(OnlyBox(), NotWritten("\t<CrossSects name=\"\xC3\xB1\">"));
   EXPECT_FALSE(CLandXML::WroteWhole());
   EXPECT_EQ(CLandXML::Tabs(), 2) << "the depth follows the calls, not the disk";
@@ -78,7 +79,7 @@ TEST_F(Document, ThatFailsToCloseIsNotWholeButSaysNothing) {
 }
 
 TEST_F(Document, WithoutAnOpenFileTakesNoLine) {
-  EXPECT_FALSE(CLandXML::WriteLn("lost"));
+  EXPECT_FALSE(CLandXML::WriteLn("lost\r\nas is this"));
   EXPECT_EQ(OnlyBox(), NotWritten("lost", "Object variable or With block variable not set"));
 }
 
