@@ -167,23 +167,22 @@ void NormalizeNumberText(std::string& sText) {
 }
 
 double ParseChainage(std::string& sText) {
-  // 1. trimmed, the sign and where the kilometres begin
+  // Trimmed, the sign and where the kilometres begin
   sText.erase(sText.find_last_not_of(' ') + 1);
   sText.erase(0, sText.find_first_not_of(' '));
   const bool bMinus = sText.starts_with('-');
   const double dSign = bMinus ? -1 : 1;
   const std::size_t nFirst = bMinus || sText.starts_with('+') ? 1 : 0;
-  // 2. the sign between kilometres and metres
+  // The sign between kilometres and metres
   const auto nSign = sText.find_first_of("+-", nFirst);
   if (nSign == sText.npos) return LeadingNumber(sText);
-  // 3. a kilometre has as many digits as stand between that sign and the point
+  // A kilometre has as many digits as stand between that sign and the point
   const auto nPoint = std::min(sText.find('.', nSign), sText.size());
   const double m = Checked::Finite(std::pow(10.0, static_cast<double>(nPoint - nSign - 1)));
-  // 4. the two numbers
+  // The two numbers
   const std::string_view sAll = sText;
   const double a = LeadingNumber(sAll.substr(nFirst, nSign - nFirst));
   const double c = LeadingNumber(sAll.substr(nSign + 1));
-  // 5. together
   return Checked::Finite(sText[nSign] == '+' ? dSign * (a * m + c) : dSign * a * m - c);
 }
 

@@ -72,13 +72,13 @@ bool CheckInside(const TVtElements& aVt, const std::vector<double>& aChainages, 
 
 int CheckHz(const THzElements& aHz, double dTolerance) {
   return Guard("CheckHz", 0, [&] {
-    // 1. clothoids of no length
+    // Clothoids of no length
     for (int i = 1; i <= UpperBound(aHz); ++i) {
       const THzElement& Element = Checked::At(aHz, i);
       if (Element.dLength == 0 && Element.dParameter != 0)
         AddReportError(Element.dChainage, true, dNotGiven, dNotGiven, dNotGiven, dNotGiven, sNoLength);
     }
-    // 2. does each element end where the next one starts?
+    // Does each element end where the next one starts?
     for (int i = 1; i < UpperBound(aHz); ++i) CheckMeeting(aHz, i, dTolerance);
     return CurrentReport().nErrors;
   });

@@ -3,8 +3,10 @@
 //
 //      P.K. 1000.000
 //      (up to six lines)
-//      ====== ====== ==== ====== ====== ==== ====== ======      c1..c3 Taludes, c4..c6 Rasante, c7, c8
-//      Subrasante -12.500 510.200 T1  -3.500 512.000 P1  -3.000 511.500
+//      ======= ======= == ======= ======= == ======= =======
+//      -12.500 510.200 T1  -3.500 512.000 P1  -3.000 511.500
+//
+// Columns 1 to 3 (offset, height, code) are Taludes, 4 to 6 Rasante, 7 and 8 (offset, height) Subrasante.
 #include "base/ST.h"
 #include "design_data/CovertData.h"
 #include "design_data/ListingReaders.h"

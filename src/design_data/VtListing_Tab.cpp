@@ -1,11 +1,11 @@
 // The tab form of the vertical listing: an RTF table in blocks of three rows, of which two are read (A and B;
 // -> is a Tab). Two lines stand before the first block.
 //
-//     x->0.000                                           first block: the profile's start (A2, B4, B5)
+//     x->0.000                                        first block: the profile's start (A2, B4, B5)
 //     x->x->x->512.340->2.500
 //     x
-//     x->x->250.000->516.090->2.500->x->12.5             start of a curve: chainage, height, gradient,
-//     parameter x->x->370.000->519.666                             its end
+//     x->x->250.000->516.090->2.500->x->12.5          a curve: chainage, height, gradient, parameter
+//     x->x->370.000->519.666                          its end: chainage, height
 //     x
 #include <cmath>
 

@@ -33,11 +33,11 @@ THzPoint FromStraight(double d, double sg, const THzElement& Element) {
 THzPoint ToStraight(double d, double sg, const THzElement& Element) {
   const double L = Element.dLength;
   if (L == 0) return {Element.dX, Element.dY, Element.dAzimuth};
-  // 1., 2. the azimuth at the origin looking back, and the origin
+  // The azimuth at the origin looking back, and the origin
   const auto Whole = GM::ClothoidChord(Element.dParameter, L);
   const double b = GM::Normalized(Element.dAzimuth + GM::dPi + sg * Whole.dTau);
   const THzPoint Origin = Go(GM::StartOf(Element), b - sg * Whole.dDelta + GM::dPi, Whole.dChord);
-  // 3., 4. back from the origin
+  // Back from the origin
   const double r = L - d;
   if (r == 0) return WithAzimuth(Origin, b + GM::dPi);
   const auto Rest = GM::ClothoidChord(Element.dParameter, r);
@@ -154,14 +154,13 @@ THzPoint GetPointOnClothoid(double dDistance, double dEndRadius, const THzElemen
 
 THzPoint GetPointOnCubicSpiral(double d0, bool bFromStart, const THzElement& Element,
                                const THzElement& Next) {
-  // 1. origin, azimuth there and the way along its tangent
+  // Origin, azimuth there and the way along its tangent
   const THzPoint Origin = bFromStart ? GM::StartOf(Element) : GM::StartOf(Next);
   const double a = bFromStart ? Element.dAzimuth : Next.dAzimuth * GM::dGonToRadians;
   const double x = bFromStart ? Element.dLength : d0 - Element.dLength;
-  // 2. offset of a cubic parabola, with the correction of its curvature
+  // Offset of a cubic parabola, with the correction of its curvature
   const double R = Element.dRadius;
   const double y = Checked::Divide(x * x * x, 6 * R * d0) * (1 + 3 * (d0 * d0) / (64 * (R * R)));
-  // 3.
   return {Origin.dX + std::sin(a) * x + std::cos(a) * y, Origin.dY + std::cos(a) * x - std::sin(a) * y, 0};
 }
 

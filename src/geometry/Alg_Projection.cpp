@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/Checked.h"
+#include "base/NotGiven.h"
 #include "geometry/Alg.h"
 #include "geometry/AligmentIndex.h"
 #include "geometry/UnitClothoid.h"
@@ -74,19 +75,16 @@ int FindNearestVertex(const THzPoint& Point, const THzElements& aHz, int nFirst,
 
 namespace {
 
-// Steps 1 to 7 from the nearest vertex k on.
+// On the element of the nearest vertex k or the one before it; where neither holds the foot, the way to the vertex.
 bool ProjectNear(double& dChainage, double& dOffset, const THzPoint& Point, const THzElements& aHz,
                  int nFirst, int k) {
   dChainage = dOffset = dOutside;
   double dPrevChainage = dOutside, dPrevOffset = dOutside;
-  // 2., 3.
   if (k > nFirst) ProjectOnElement(dPrevChainage, dPrevOffset, Point, aHz, k - 1);
   ProjectOnElement(dChainage, dOffset, Point, aHz, k);
-  // 4.
   const THzElement& Nearest = Checked::At(aHz, k);
   const bool bInPrev = k > nFirst && IsInside(dPrevChainage, Checked::At(aHz, k - 1));
   const bool bInThis = IsInside(dChainage, Nearest);
-  // 5., 6.
   if (bInPrev && (!bInThis || std::fabs(dPrevOffset) < std::fabs(dOffset))) {
     dChainage = dPrevChainage;
     dOffset = dPrevOffset;
@@ -94,7 +92,6 @@ bool ProjectNear(double& dChainage, double& dOffset, const THzPoint& Point, cons
     dOffset = GM::GetDistance(Point, GM::StartOf(Nearest));
     dChainage = Nearest.dChainage;
   }
-  // 7.
   dChainage = RoundedToMillimetres(dChainage);
   dOffset = RoundedToMillimetres(dOffset);
   return bInPrev || bInThis;
@@ -132,12 +129,10 @@ void ProjectOnLine(double& dOffset, double& dAlong, const THzPoint& Point, const
 
 void ProjectOnArc(double& dOffset, double& dAlong, const THzPoint& Point, const THzElement& Element) {
   const double rho = std::fabs(Element.dRadius), sg = Element.dRadius > 0 ? 1 : -1;
-  // 1., 2.
   const double dToCenter = GM::Normalized(sg * GM::dHalfPi + Element.dAzimuth * GM::dGonToRadians);
   const THzPoint Center = GM::PolarPoint(GM::StartOf(Element), dToCenter, rho);
   const double d = GM::GetDistance(Center, Point), b = GM::GetAzimuth(Center, Point);
   const double c0 = GM::Normalized(dToCenter - GM::dPi);
-  // 3., 4.
   dOffset = Element.dRadius > 0 ? rho - d : d - rho;
   dAlong = rho * GM::Normalized(Element.dRadius > 0 ? b - c0 : c0 - b);
 }
@@ -157,9 +152,9 @@ TUnitFrame FrameOf(const THzElement& Element, double dEndRadius) {
   const double A = Element.dParameter, R = Element.dRadius, L = Element.dLength;
   const double a = Element.dAzimuth * GM::dGonToRadians, sg = R > 0 ? 1 : -1;
   const THzPoint S = GM::StartOf(Element);
-  // 1. from a straight
+  // From a straight
   if (std::fabs(R) == GM::dInfiniteRadius) return {S, GM::Normalized(a), true, 0};
-  // 3. growing between two radii
+  // Growing between two radii
   if (dEndRadius != 0 && std::fabs(dEndRadius) != GM::dInfiniteRadius &&
       std::fabs(R) > std::fabs(dEndRadius)) {
     const double s0 = A * A / std::fabs(dEndRadius) - L;
@@ -167,7 +162,7 @@ TUnitFrame FrameOf(const THzElement& Element, double dEndRadius) {
     const double dBack = GM::Normalized(a - sg * Before.dTau + sg * Before.dDelta + GM::dPi);
     return {GM::PolarPoint(S, dBack, Before.dChord), GM::Normalized(a - sg * Before.dTau), true, s0};
   }
-  // 2. to a straight, 4. falling between two radii
+  // To a straight, or falling between two radii
   const bool bToStraight = dEndRadius == 0 || std::fabs(dEndRadius) == GM::dInfiniteRadius;
   const double s0 = bToStraight ? L : A * A / std::fabs(R);
   const auto Ahead = GM::ClothoidChord(A, s0);
@@ -182,16 +177,14 @@ void ProjectOnClothoid(double& dOffset, double& dAlong, const THzPoint& Point, c
   const double A = Element.dParameter, R = Element.dRadius;
   const TUnitFrame Frame = FrameOf(Element, dEndRadius);
   const double dX = Point.dX - Frame.Origin.dX, dY = Point.dY - Frame.Origin.dY, t = Frame.dTangent;
-  // 1. - 3.
   const double u = (dX * std::sin(t) + dY * std::cos(t)) / A, w = (dY * std::sin(t) - dX * std::cos(t)) / A;
+  // As the unit clothoid sees it; a point beyond the origin of a falling one through its mirror image
   double x = Frame.bForward ? u : -u;
   const bool bBeyond = !Frame.bForward && x < 0;
   if (bBeyond) x = std::fabs(x);
-  // 4.
   double s = dAlong, d = 0;
   int nSide = 1;
   FootOnUnitClothoid(s, d, nSide, {x, R > 0 ? -w : w, 0});
-  // 5. and the distance along
   dOffset = R > 0 ? -nSide * d * A : nSide * d * A;
   dAlong = Frame.bForward ? A * s - Frame.dFromStart
            : bBeyond      ? Frame.dFromStart + A * s
@@ -199,7 +192,7 @@ void ProjectOnClothoid(double& dOffset, double& dAlong, const THzPoint& Point, c
 }
 
 void FootOnUnitClothoid(double& s, double& dDistance, int& nSide, const THzPoint& Point) {
-  // 1. behind the origin: no foot
+  // Behind the origin: no foot
   if (Point.dX < 0) {
     dDistance = dNoFoot;
     return;
@@ -219,21 +212,19 @@ void FootOnUnitClothoid(double& s, double& dDistance, int& nSide, const THzPoint
     MoveTo(std::fmin(From.dX, dLongestUnitArc));
     Measure(From);
   };
-  // 2., 3.
   Begin(Point);
   nSide = b <= GM::dHalfPi - dTau || b >= dThreeHalvesPiFoot - dTau ? -1 : 1;
-  // 4.
   if (Point.dX < 0.000001) {
     s = 0;
     dDistance = Point.dY;
     return;
   }
-  // 5. on the concave side the start values come from the mirror image
+  // On the concave side the start values come from the mirror image
   if (nSide == -1) {
     const double xi = Foot.dX - Checked::Divide(Foot.dY, std::tan(dTau));
     Begin(GM::MirrorPoint(Foot, {xi, 0, 0}, Point));
   }
-  // 6.
+  // Newton's steps until the foot lies square to the point
   double dStep = 0;
   for (int nPass = 0; nPass < 6; ++nPass) {
     const double phi = b - (GM::dPi - dTau);
@@ -242,8 +233,8 @@ void FootOnUnitClothoid(double& s, double& dDistance, int& nSide, const THzPoint
     MoveTo(std::fmax(s - dStep, 0.00001));
     Measure(Point);
   }
-  // 7. no foot found
-  s = dDistance = -9999999.9999;
+  // No foot found
+  s = dDistance = dNotGiven;
 }
 
 }  // namespace vrek::Alg

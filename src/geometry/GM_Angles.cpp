@@ -33,7 +33,6 @@ double GetAzimuth(const THzPoint& Point1, const THzPoint& Point2) {
   const double dx = Point2.dX - Point1.dX, dy = Point2.dY - Point1.dY;
   double a = 0;
   if (dx != 0 && dy != 0) {
-    // 1.
     a = std::atan(dx / dy);
     if (dy < 0) {
       a += dPi;
@@ -41,13 +40,12 @@ double GetAzimuth(const THzPoint& Point1, const THzPoint& Point2) {
       a += dTwoPiAzimuth;
     }
   } else if (dx == 0) {
-    // 2. equal points lie south of each other
+    // Equal points lie south of each other
     a = dy > 0 ? 0 : dPi;
   } else {
-    // 3.
     a = dx > 0 ? dHalfPi : dThreeHalvesPi;
   }
-  return Normalized(a);  // 4.
+  return Normalized(a);
 }
 
 double GetDistance(const THzPoint& Point1, const THzPoint& Point2) {

@@ -55,7 +55,7 @@ double Deflection(double dParameter, double dMagnitude) {
   return dLength / (2 * dMagnitude);
 }
 
-// 4., 5. of ChooseClothoidEndRadius: two candidates, told apart by the deflection to the next element.
+// For ChooseClothoidEndRadius: two candidates, told apart by the deflection to the next element.
 double RadiusByDeflection(const THzElement& Clothoid, double s0, double dNextAzimuth) {
   const double A = std::fabs(Clothoid.dParameter), L = std::fabs(Clothoid.dLength);
   const double l0 = s0, l1 = std::fabs(s0 - L), l2 = std::fabs(s0 + L);
@@ -71,10 +71,9 @@ double RadiusByDeflection(const THzElement& Clothoid, double s0, double dNextAzi
 
 double GetClothoidEndRadius(const THzElement& Clothoid) {
   const double A = std::fabs(Clothoid.dParameter), R = Clothoid.dRadius, L = Clothoid.dLength;
-  // 1. distance from the end to the point of zero curvature
+  // Distance from the end to the point of zero curvature
   double m = L;
   if (std::fabs(R) != dInfiniteRadius && R != 0) m = A * A / std::fabs(R) - L;
-  // 2., 3.
   const double dMagnitude = std::fabs(m) < dFits ? 0 : A * A / std::fabs(m);
   return R < 0 ? -dMagnitude : dMagnitude;
 }
@@ -83,28 +82,27 @@ double ChooseClothoidEndRadius(const THzElement& Clothoid, double dNextAzimuth, 
   const double A = std::fabs(Clothoid.dParameter), R = std::fabs(Clothoid.dRadius),
                L = std::fabs(Clothoid.dLength);
   const double sg = Sign(Clothoid.dRadius), rNext = std::fabs(dNextRadius);
-  // 1. from a straight
+  // From a straight
   if (R == 0 || R == dInfiniteRadius) return sg * Checked::Divide(A * A, L);
-  // 2. out to a straight
+  // Out to a straight
   const double s0 = A * A / R;
   if (std::fabs(s0 - L) < dFits) return sg * 0;
-  // 3. it fits the next element
+  // It fits the next element
   const double s1 = rNext == 0 ? 0 : A * A / rNext;
   const double g = R > rNext ? L - (s1 - s0) : L - (s0 - s1);
   if (std::fabs(g) < dFits) return sg * rNext;
-  // 4. - 6.
   return sg * RadiusByDeflection(Clothoid, s0, dNextAzimuth);
 }
 
 double GetClothoidStartRadius(double dAzimuth1, double dAzimuth2, double dRadius1, double dRadius2,
                               double dParameter) {
-  // 1. the sense of the turn and its size
+  // The sense of the turn and its size
   const bool bLeft = std::sin(dAzimuth2 * dGonToRadians - dAzimuth1 * dGonToRadians) < 0;
   const double delta = Normalized((bLeft ? dAzimuth1 - dAzimuth2 : dAzimuth2 - dAzimuth1) * dGonToRadians);
-  // 2., 3. from radius 1 to a straight, from a straight to radius 2, between both
+  // From radius 1 to a straight, from a straight to radius 2, between both
   const double a1 = std::fabs(dRadius1), t1 = Deflection(dParameter, a1);
   const double t2 = Deflection(dParameter, std::fabs(dRadius2)), t3 = std::fabs(t1 - t2);
-  // 4., 5. the nearest; on a tie the earliest
+  // The nearest; on a tie the earliest
   double dMagnitude = a1, dNearest = std::fabs(delta - t1);
   if (std::fabs(delta - t2) < dNearest) {
     dMagnitude = dInfiniteRadius;
@@ -133,14 +131,13 @@ void ClothoidUnitPoint(double dTau, double& dUnitX, double& dUnitY) {
 }
 
 THzPoint GetSpiralPI(const THzPoint& End, const THzElement& Spiral) {
-  // 1.
   const THzPoint Start = StartOf(Spiral);
   const double az = GetAzimuth(Start, End), d = GetDistance(Start, End);
-  // 2. angles between the chord and the tangents
+  // Angles between the chord and the tangents
   const bool bLeft = Spiral.dRadius < 0;
   const double a1 = bLeft ? Spiral.dAzimuth - az : az - Spiral.dAzimuth;
   const double a2 = bLeft ? az - End.dAzimuth : End.dAzimuth - az;
-  // 3., 4. law of sines
+  // Law of sines
   const double s = std::sin(dPi - (a1 + a2));
   return PolarPoint(Start, Spiral.dAzimuth, s == 0 ? 0 : std::sin(a2) * d / s);
 }

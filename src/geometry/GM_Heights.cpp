@@ -11,7 +11,7 @@ double Sign(double d) {
   return d > 0 ? 1 : d < 0 ? -1 : 0;
 }
 
-// 3. of both routines: beyond its middle the parabola is worked out from its far end.
+// Beyond its middle the parabola is worked out from its far end.
 double HeightOnParabola(const TVtElement& Element, double dx) {
   const double s = Element.dSlope, K = Element.dKv, L = Element.dLength;
   if (dx <= L / 2) return Element.dHeight + dx * s + dx * dx / (2 * K);
@@ -22,7 +22,7 @@ double HeightOnParabola(const TVtElement& Element, double dx) {
 }  // namespace
 
 double GetHeightAtChainage(const TVtElements& aVt, double dChainage) {
-  // 1. the first element that doesn't start before the chainage, or the last; one back if it starts behind it
+  // The first element that doesn't start before the chainage, or the last; one back if it starts behind it
   const int nLast = UpperBound(aVt);
   int i = 1;
   while (i < nLast && aVt[static_cast<std::size_t>(i)].dChainage < dChainage) ++i;
@@ -34,7 +34,6 @@ double GetHeightAtChainage(const TVtElements& aVt, double dChainage) {
 double GetHeightFromElement(const TVtElements& aVt, int nElement, double dChainage) {
   try {
     const TVtElement& Element = Checked::At(aVt, nElement);
-    // 2. - 5.
     const double dx = dChainage - Element.dChainage;
     if (Element.dKv == 0) return Checked::Finite(Element.dHeight + dx * Element.dSlope);
     if (Element.dLength <= 0) return GetHeightOnCircle(Element, dx);
@@ -52,12 +51,11 @@ double GetHeightInElement(const TVtElement& Element, double dDistance) {
 
 double GetHeightOnCircle(const TVtElement& Element, double dDistance) {
   const double dTheta = std::atan(Element.dSlope), rho = std::fabs(Element.dKv), sg = Sign(dTheta);
-  // 1. the centre lies below a crest and above a sag
+  // The centre lies below a crest and above a sag
   const double dAcross = rho * sg * std::sin(std::fabs(dTheta)), dUp = rho * std::cos(std::fabs(dTheta));
   const bool bCrest = Element.dKv < 0;
   const double cx = bCrest ? Element.dChainage + dAcross : Element.dChainage - dAcross;
   const double cz = bCrest ? Element.dHeight - dUp : Element.dHeight + dUp;
-  // 2.
   const double u = (Element.dChainage + dDistance) - cx;
   return Checked::Finite(cz - Sign(Element.dKv) * Checked::Sqrt(Element.dKv * Element.dKv - u * u));
 }

@@ -113,12 +113,11 @@ std::string_view Transition(bool bStartInfinite, bool bEndInfinite) {
 //   radiusEnd="900.000000" rot="cw" spiType="clothoid" constant="345.000000">   all in one line
 void AddClothoid(CElementLines& Lines, const TPlace& Place) {
   const THzElement& Hz = Place.Element;
-  // 1., 2. radii and end
+  // Radii and end
   const double dEndRadius =
       Place.bLast ? GM::GetClothoidEndRadius(Hz)
                   : GM::ChooseClothoidEndRadius(Hz, NextOf(Place).dAzimuth, NextOf(Place).dRadius);
   const THzPoint End = Place.bLast ? Alg::GetPointOnClothoid(Hz.dLength, dEndRadius, Hz) : StartOfNext(Place);
-  // 4. - 6.
   const auto IsInfinite = [](double dRadius) {
     return dRadius == 0 || std::fabs(dRadius) == GM::dInfiniteRadius;
   };
@@ -127,7 +126,6 @@ void AddClothoid(CElementLines& Lines, const TPlace& Place) {
             "\" length=\"", Hz.dLength, "\" radiusStart=\"", RadiusText(Hz.dRadius, bStartInfinite),
             "\" radiusEnd=\"", RadiusText(dEndRadius, bEndInfinite), "\" rot=\"", Rotation(Hz.dRadius),
             "\" spiType=\"clothoid\" constant=\"", Hz.dParameter, "\">");
-  // 3.
   AddSpiralPoints(Lines, Place, End);
 }
 

@@ -72,17 +72,16 @@ bool TagCoordGeomIrrLn(double& dOutStart, double& dOutEnd, const THzElements& aH
   if (UpperBound(aHz) < 1) return false;
   return Guard("TagCoordGeomIrrLn", false, [&] {
     const TElementRange Range = ChooseElements(aHz, dChStart, dChEnd, Alg::FindHzElement, 1);
-    // 1. the first element
+    // The first element
     TBlock Block;
     Block.b = Range.nFirst;
     dOutStart = Checked::At(aHz, Range.nFirst).dChainage;
     bool bWritten = false;
     do {
-      // 2. the next block begins where this one ends
+      // The next block begins where this one ends
       Block.a = Block.b;
       Block.bLast = Block.a + nPointsOfBlock - 1 >= Range.nLast;
       Block.b = Block.bLast ? Range.nLast : Block.a + nPointsOfBlock - 1;
-      // 3. - 5.
       const THzElement& Last = Checked::At(aHz, Block.b);
       Block.End = Block.bLast ? EndOf(Last) : GM::StartOf(Last);
       if (Block.bLast) dOutEnd = Last.dChainage + Last.dLength;

@@ -34,11 +34,11 @@ void WriteParabola(CElementLines& Lines, const TVtElement& Vt) {
 
 // <CircCurve length="120.000000" radius="-5000.000000">1060.000000 51.200000</CircCurve>
 void WriteCircle(CElementLines& Lines, const TVtElement& Vt, double dNextSlope) {
-  // 1. tangent length
+  // Tangent length
   const double dTangent = std::fabs(Vt.dKv * std::tan((std::atan(Vt.dSlope) - std::atan(dNextSlope)) / 2));
-  // 2. its horizontal projection
+  // Its horizontal projection
   const double dProjection = dTangent * std::cos(std::atan(Vt.dSlope));
-  // 3. the intersection of the tangents
+  // The intersection of the tangents
   Lines.Add(1, "<CircCurve length=\"", std::fabs(Vt.dLength), "\" radius=\"", Vt.dKv, "\">",
             Vt.dChainage + dProjection, " ", Vt.dHeight + Vt.dSlope * dProjection, "</CircCurve>");
   Lines.Write();

@@ -98,18 +98,18 @@ class Generation {
 
 bool GenerateVtAligment(int nTarget, int nSource, int nSup, double dStep, IProgress& Progress,
                         bool bIsVtAligmentSourceChainageCL) {
-  // 1., 2. what it is made from
+  // What it is made from
   Generation Work(nTarget, nSource, nSup, bIsVtAligmentSourceChainageCL);
   const THzElements& aHz = Work.SourceHz();
   Progress.SetRanges(0, UpperBound(Work.TargetHz()));
-  // 3. from the start of element 1
+  // From the start of element 1
   int i = 1;
   double ch = Checked::At(aHz, i).dChainage;
   const double dSourceEnd = EndOf(aHz.back());
   TVtElements aVt;
   aVt.reserve(CountSamples(aHz, dStep) + 1);
   aVt.emplace_back();
-  // 4. the samples, afresh at each element
+  // The samples, afresh at each element
   const CRepeatedFailures OnceEach;
   for (;;) {
     Progress.SetValue(i);
@@ -122,7 +122,6 @@ bool GenerateVtAligment(int nTarget, int nSource, int nSup, double dStep, IProgr
     }
     if (ch > dSourceEnd) break;
   }
-  // 5.
   SetAligmentVt(nTarget, std::move(aVt));
   return true;
 }

@@ -55,15 +55,15 @@ std::vector<double> clsSuperelevation::GetChainages() const {
 }
 
 double clsSuperelevation::GetSlopeInChainage(double dChainage) const {
-  // 1. the row
+  // The row
   const int i = FindStation(dChainage);
   if (i == -1) return 0;
   const TCantStation& Row = Checked::At(m_aStations, i);
-  // 2. what it holds at this chainage
+  // What it holds at this chainage
   const bool bLast = i + 1 == std::ssize(m_aStations);
   if (dChainage == Row.dStation || bLast) return SlopeOf(Row);
   const TCantStation& Next = Checked::At(m_aStations, i + 1);
-  // 3. its slope
+  // Its slope
   return SlopeOf(Next.dStation == Row.dStation ? Row : Interpolated(Row, Next, dChainage));
 }
 

@@ -1,9 +1,10 @@
 // clsSuperelevation: the cant table of one track, and the rails worked out from it. Metres; cant is
 // millimetres in the file. Stations are taken to be in rising chainage.
 //
-//   clsSuperelevation.cpp          what the table answers        clsSuperelevation_Rails.cpp    rails and
-//   cant plane clsSuperelevation_Import.cpp   the file                      clsSuperelevation_Export.cpp the
-//   sections
+//   clsSuperelevation.cpp          what the table answers
+//   clsSuperelevation_Import.cpp   the file
+//   clsSuperelevation_Rails.cpp    rails and cant plane
+//   clsSuperelevation_Export.cpp   the sections
 #pragma once
 
 #include <string>

@@ -42,7 +42,7 @@ std::string_view RailNames(int nAligment) {
   return nAligment == 3 ? "Left_R,Right_R" : "Left,Right";
 }
 
-// 1. the alignment's plan, or that of the stringline that stands for it; Kept holds what the store hands out.
+// The alignment's plan, or that of the stringline that stands for it; Kept holds what the store hands out.
 const THzElements& Plan(int nAligment, std::string_view sStringLine, TStringLine& Kept) {
   if ((CAligmentsDatas::GetAligmentType(nAligment) & AligmentType::nStrLn) == 0)
     return CAligmentsDatas::GetAligmentHz(nAligment);
@@ -50,7 +50,7 @@ const THzElements& Plan(int nAligment, std::string_view sStringLine, TStringLine
   return Kept.Hz;
 }
 
-// 2. the elements to look at
+// The elements to look at
 TRange ElementRange(const THzElements& aHz, const TLimits& Limits) {
   const int n = UpperBound(aHz);
   TRange Range{1, n};
@@ -61,7 +61,7 @@ TRange ElementRange(const THzElements& aHz, const TLimits& Limits) {
   return Range;
 }
 
-// 3. the chainages where two clothoids meet that turn opposite ways, from dFrom to dTo
+// The chainages where two clothoids meet that turn opposite ways, from dFrom to dTo
 void CollectTurns(std::vector<double>& aChainages, const THzElements& aHz, TRange Range, double dFrom,
                   double dTo) {
   int nSense = 0;
@@ -75,7 +75,7 @@ void CollectTurns(std::vector<double>& aChainages, const THzElements& aHz, TRang
   }
 }
 
-// 5. the chainages to write, from index 1 on; no more than one element when there is nothing to write
+// The chainages to write, from index 1 on; no more than one element when there is nothing to write
 TRange ListRange(const std::vector<double>& aChainages, const TLimits& Limits) {
   const int nLast = UpperBound(aChainages);
   TRange Range{1, nLast};
@@ -114,16 +114,16 @@ void clsSuperelevation::ExportToLandXml(double& rChainageStart, double& rChainag
     TStringLine Kept;
     const THzElements& aHz = Plan(nAligment, sStringLine, Kept);
     const TRange Elements = ElementRange(aHz, Limits);
-    // 3., 4. the chainages, from index 1
+    // The chainages, from index 1
     std::vector<double> aChainages(1);
     CollectTurns(aChainages, aHz, Elements, GetChainageStart(), GetChainageEnd());
     for (const auto& Row : m_aStations) aChainages.push_back(Row.dStation);
     CovertData::SortDoubles(aChainages, 1);
-    // 5. - 7. what of them is written
+    // What of them is written
     const TRange Range = ListRange(aChainages, Limits);
     if (Range.nFirst >= Range.nLast || !CLandXML::TagCrossSects(false, "")) return;
     rChainageStart = Checked::At(aChainages, Range.nFirst);
-    // 8. the sections
+    // The sections
     const CTrackAxis Axis(nAligment, sStringLine);
     TRails Rails;
     const CRepeatedFailures OnceEach;
@@ -139,7 +139,6 @@ void clsSuperelevation::ExportToLandXml(double& rChainageStart, double& rChainag
       }
       CLandXML::TagCrossSect(true, "", "");
     }
-    // 9.
     CLandXML::TagCrossSects(true, "");
   });
 }

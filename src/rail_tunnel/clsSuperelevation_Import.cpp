@@ -54,16 +54,16 @@ ERotationPoint clsSuperelevation::GetRotationPoint(std::string_view sText) {
 bool clsSuperelevation::Import(const std::string& sFilename) {
   constexpr std::string_view sSource = "ImportSuperelevationTable";
   return Guard(sSource, false, [&] {
-    // 1. - 3. a table of a known version
+    // A table of a known version
     const TXmlDocument Document = ReadXmlFile(sFilename, "CantStation", Error::nXmlUnreadable);
     CheckVersion(Document.aTopNodes);
     if (Document.sRootLocalName != "Cant") Raise(Error::nNotTheExpectedFile);
-    // 4. what holds for the whole table
+    // What holds for the whole table
     m_dGauge = Number(Document.Root, "gauge");
     m_dSuperelevationBase = Number(Document.Root, "superelevationBase");
     m_eRotationPoint = GetRotationPoint(Document.Root.Attribute("rotationPoint"));
     m_bCoPlane = Document.Root.Attribute("coPlane") == "true";
-    // 5., 6. the rows, all in the form of the first one
+    // The rows, all in the form of the first one
     if (Document.aElements.empty()) Raise(Error::nXmlElementMissing);
     const bool bSingleCant = Document.aElements.front().HasAttribute("appliedCant");
     for (const auto& Element : Document.aElements) {

@@ -1,11 +1,14 @@
 // The two rails at a chainage, and the height of one track from that of another on a common plane.
 //
-//      left rail        right rail        Both stand gauge g apart on a plane that rises by x over the base
-//      S.
-//   Z + l  o---__          o  Z + r       In plan their half distance is D(x) = 0.5·sqrt(S² - x²)·g/S.
+//      left rail        right rail
+//   Z + l  o---__          o  Z + r
 //         |      ---___  / |
-//         |<- d ->|<- d ->|               Inside and outside rail follow from the radius R of the plan at the
-//                axis                     station of the row: the inside is right where R is above 0.
+//         |<- d ->|<- d ->|
+//                axis
+//
+// Both stand the gauge g apart on a plane that rises by x over the base S; in plan their half distance is
+// D(x) = 0.5·sqrt(S² - x²)·g/S. Inside and outside rail follow from the radius R of the plan at the station of the
+// row: the inside is right where R is above 0.
 #include <cmath>
 
 #include "base/Checked.h"
@@ -88,13 +91,13 @@ bool clsSuperelevation::ComputeRails(double& r_dDist2CL, double& r_dHeightLeft, 
 bool clsSuperelevation::RailsAt(double& r_dDist2CL, double& r_dHeightLeft, double& r_dHeightRight,
                                 int nAligment, double dChainage, const CTrackAxis& Axis) const {
   return Guard("ComputeRails", false, [&] {
-    // 1. - 3. the row, the axis and the radius
+    // The row, the axis and the radius
     const int i = FindStation(dChainage);
     if (i == -1) return false;
     const TCantStation& Row = Checked::At(m_aStations, i);
     const double Z = Axis.Height(dChainage);
     const ELower eLower = LowerRail(Row, RadiusAt(nAligment, Row));
-    // 4. by the point of rotation
+    // By the point of rotation
     if (Row.eRotationPoint == ERotationPoint::ePlatformAxis) return true;
     const bool bGiven = Row.eRotationPoint == ERotationPoint::eGivenByRails;
     if (eLower == ELower::eNone && !bGiven) {
@@ -114,20 +117,20 @@ bool clsSuperelevation::CalcHeightVtAligmentCoplane(int nAligment, double dChain
                                                     double& dHeightCL, bool bIsVtAligmentSourceChainageCL,
                                                     TRowRadius* pRadius) const {
   return Guard("ModifyHeightVtAligmentCoplane", false, [&] {
-    // 1. the rise of the plane over the distance of the tracks
+    // The rise of the plane over the distance of the tracks
     const double a = GetSlopeInChainage(dChainage);
     const double t = std::fabs(dOffset) * std::tan(a);
-    // 2., 3. the row, and what lies between the centre and the rails
+    // The row, and what lies between the centre and the rails
     const int i = FindStation(dChainage);
     if (i == -1) return false;
     const TCantStation& Row = Checked::At(m_aStations, i);
     const double e = bIsVtAligmentSourceChainageCL ? 0.5 * Row.dAppliedSuperelevation * std::sin(a) : 0;
-    // 4. which way the plane falls
+    // Which way the plane falls
     TRowRadius Radius = pRadius ? *pRadius : TRowRadius{};
     if (Radius.nRow != i) Radius = {i, RadiusAt(nAligment, Row)};
     if (pRadius) *pRadius = Radius;
     const ELower eLower = LowerRail(Row, Radius.dRadius);
-    // 5. the left track lies lower where the left rail does
+    // The left track lies lower where the left rail does
     if (eLower == ELower::eNone || (nAligment != 2 && nAligment != 3)) return true;
     const bool bLower = (eLower == ELower::eLeft) == (nAligment == 2);
     dHeightCL = Checked::Finite(bLower ? dHeightCL - t + e : dHeightCL + t - e);

@@ -19,15 +19,15 @@ namespace {
 
 // All lines of the file in one, without line 1. Bytes of the code page.
 void JoinLines(std::string& sBytes, CTextFile& File) {
-  // 1. line 1 goes, declaration or not
+  // Line 1 goes, declaration or not
   const std::string_view sFirst = File.AtEnd() ? std::string_view{} : File.NextLine();
-  // 2. behind a declaration the root element must follow
+  // Behind a declaration the root element must follow
   if (sFirst.starts_with("<?xml")) {
     const std::string_view sLine = File.NextLine();
     if (!sLine.starts_with("<TunnelProfiles")) Raise(Error::nNotTheExpectedFile);
     sBytes += sLine;
   }
-  // 3. the rest
+  // The rest
   while (!File.AtEnd()) sBytes += File.NextLine();
 }
 
@@ -35,7 +35,7 @@ void JoinLines(std::string& sBytes, CTextFile& File) {
 
 bool clsTunnel::Load(const std::string& sFilename) {
   return Guard("clsTunnel.Load", false, [&] {
-    // 1. - 3. the text
+    // The text
     m_sXml.clear();
     {
       CTextFile File = OpenTextFile(sFilename);
@@ -43,11 +43,11 @@ bool clsTunnel::Load(const std::string& sFilename) {
       JoinLines(sBytes, File);
       m_sXml = CodePage::ToUtf8(sBytes);
     }
-    // 4. - 6. the profiles
+    // The profiles
     const TXmlDocument Document = ReadXmlFile(sFilename, "TunnelProfile", Error::nNotTheExpectedFile);
     if (Document.sRootLocalName != "TunnelProfiles") Raise(Error::nNotTheExpectedFile);
     if (Document.aElements.empty()) Raise(Error::nXmlElementMissing);
-    // 7., 8. their chainages
+    // Their chainages
     for (const auto& Element : Document.aElements)
       m_aChainages.push_back(ST::ParseReal(Element.Attribute("sta")));
     CovertData::SortDoubles(m_aChainages, 0);

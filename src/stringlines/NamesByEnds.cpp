@@ -16,17 +16,17 @@ void NamesByEnds(TCrData& Cr, int nSection, int nSurface, bool bSameSide) {
 
 int NameEnd(TPoints& aThis, const TPoints& aLast, bool bLastEnd, bool bSameSide) {
   if (aThis.empty() || aLast.empty()) return 0;
-  // 1. an end that has a code keeps it
+  // An end that has a code keeps it
   TCrPoint& End = bLastEnd ? aThis.back() : aThis.front();
   if (!End.sCode.empty()) return 0;
-  // 2. the code at the same end of the section before
+  // The code at the same end of the section before
   const TCrPoint& LastEnd = bLastEnd ? aLast.back() : aLast.front();
-  // 3. claimed already one place further in; a lone point has nobody beside it
+  // Claimed already one place further in; a lone point has nobody beside it
   const std::size_t nNeighbour = bLastEnd && aThis.size() > 1 ? aThis.size() - 2 : 1;
   if (nNeighbour < aThis.size() && aThis[nNeighbour].sCode == LastEnd.sCode) return 0;
-  // 4. the side must be the very same: an end on the axis doesn't match one beside it
+  // The side must be the very same: an end on the axis doesn't match one beside it
   if (bSameSide && Sign(End.dOffset) != Sign(LastEnd.dOffset)) return 0;
-  // 5. the line goes on
+  // The line goes on
   End.sCode = LastEnd.sCode;
   return 1;
 }

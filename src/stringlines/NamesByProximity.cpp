@@ -109,12 +109,12 @@ std::vector<TSegment> GetSegments(const TPoints& aThis, const TPoints& aLast) {
 
 void OneToSeveral(TPoints& aThis, int nThis, const TPoints& aLast, const TIndexes& aLastIndexes) {
   const double dOffset = Checked::At(aThis, nThis).dOffset;
-  // 1., 2. the nearest Last points on this side of the axis
+  // The nearest Last points on this side of the axis
   const TIndexes aFound = FindNearest(aLastIndexes, dOffset, aLast, true, true);
   if (aFound.empty()) return;
-  // 3. the line of the nearest goes on here
+  // The line of the nearest goes on here
   Checked::At(aThis, nThis).sCode = Checked::At(aLast, aFound.front()).sCode;
-  // 4. that of a tie, too: a phantom marks it
+  // That of a tie, too: a phantom marks it
   for (std::size_t n = 1; n < aFound.size(); ++n) {
     TCrPoint Phantom = Checked::At(aThis, nThis);
     Phantom.sCode = Checked::At(aLast, aFound[n]).sCode;
@@ -126,12 +126,12 @@ void OneToSeveral(TPoints& aThis, int nThis, const TPoints& aLast, const TIndexe
 
 void SeveralToOne(const TPoints& aLast, int nLast, TPoints& aThis, const TIndexes& aThisIndexes) {
   const TCrPoint& Last = Checked::At(aLast, nLast);
-  // 1., 2. the nearest This points, on either side
+  // The nearest This points, on either side
   const TIndexes aFound = FindNearest(aThisIndexes, Last.dOffset, aThis, false, false);
   if (aFound.empty()) return;
-  // 3. the nearest goes on
+  // The nearest goes on
   Checked::At(aThis, aFound.front()).sCode = Last.sCode;
-  // 4. a tie will start a line that branches off
+  // A tie will start a line that branches off
   for (std::size_t n = 1; n < aFound.size(); ++n) Checked::At(aThis, aFound[n]).sLink = Last.sCode;
 }
 

@@ -45,21 +45,19 @@ bool ExportDriver::ExportAligment(int nAligment) {
 
 void ExportDriver::ExportAxis(int nAligment, int nType) {
   const auto& aHz = CAligmentsDatas::GetAligmentHz(nAligment);
-  // 1., 2. the limits choose elements, so the alignment begins and ends with whole ones
+  // The limits choose elements, so the alignment begins and ends with whole ones
   const auto& First = Checked::At(aHz, Alg::FindHzElement(ChStart(), aHz));
   const auto& Last = Checked::At(aHz, Alg::FindHzElement(ChEnd(), aHz));
   const auto sName = m_Window.ctlFiles.GetName(nAligment, 1);
   if (!CLandXML::TagAlignment(false, sName, First.dChainage, Last.dChainage + Last.dLength)) return;
-  // 3. plan
+  // Plan
   m_Window.ctlProgress.Info(AppModel().GetToken("T_EXPORTING_HZ"));
   double dStart = 0, dEnd = 0;
   if (CLandXML::TagCoordGeom(dStart, dEnd, aHz, ChStart(), ChEnd())) SetRows(nAligment, 1, dStart, dEnd);
-  // 4., 5.
   if (nType & AligmentType::nVt) ExportProfile(nAligment);
   if (nType & AligmentType::nCr) ExportAligmentCr(nAligment);
   if (nType & AligmentType::nSup) ExportAligmentSuper(nAligment);
   if (nType & AligmentType::nTnl) ExportAligmentTunnel(nAligment);
-  // 6.
   CLandXML::TagAlignment(true, "", 0, 0);
 }
 
@@ -82,7 +80,7 @@ void ExportDriver::ExportProfile(int nAligment) {
 
 void ExportDriver::ExportAligmentCr(int nAligment) {
   auto& Progress = m_Window.ctlProgress;
-  // 1. - 3. the engine works on a copy: each export starts from what was read. Where none follows, on the
+  // The engine works on a copy: each export starts from what was read. Where none follows, on the
   // data.
   Progress.Tittle(AppModel().GetToken("T_EXPORTING_CR"));
   Progress.ShowCancel(true);
@@ -90,12 +88,10 @@ void ExportDriver::ExportAligmentCr(int nAligment) {
                                                      : CAligmentsDatas::GetAligmentCr(nAligment);
   const auto sLines = m_Window.ctlExporting.GetSelectedLayers();
   Trace(sLines);
-  // 4. - 7.
   CCrSec::NameFirstSurfaces(Cr);
   Progress.Info(AppModel().GetToken("LBL_EXP_CR_RULES"));
   CCrSec::ApplyRules(Cr, sLines, Progress);
   if (Progress.CancelPressed()) Raise(Error::nUserCancelled, "");
-  // 8. - 11.
   CCrSec::SetExportData(Cr);
   Progress.Info(AppModel().GetToken("LBL_EXP_CR_EXP"));
   double dStart = 0, dEnd = 0;

@@ -94,18 +94,18 @@ bool clsWizard::ValidateFiles() {
 void clsWizard::RaiseFileFaults() {
   auto& Files = m_Window.ctlFiles;
   Files.FocusPage = Files.FocusFile = 0;
-  // 1. files that can't be opened; a vertical slot may be empty where a side track's is generated
+  // Files that can't be opened; a vertical slot may be empty where a side track's is generated
   int nPage = 0, nFile = 0;
   if (!Files.ExistAllFiles(nPage, nFile)) {
     const bool bGenerated = Files.IsOptionSelected(2, 2) || Files.IsOptionSelected(3, 2);
     if (nFile != 2 || !bGenerated) RaiseFault(nPage, nFile);
   }
-  // 3. one alignment: its plan
+  // One alignment: its plan
   if (m_Window.ctlJobType.JobType() != eRailDouble) {
     if (!Files.IsSelected(1, 1)) RaiseFault(1, 1);
     return;
   }
-  // 2. double track: one of the tracks, and what a generated vertical alignment needs
+  // Double track: one of the tracks, and what a generated vertical alignment needs
   if (!Files.IsSelected(2, 1) && !Files.IsSelected(3, 1)) RaiseFault(2, 1);
   for (const int nTrack : {2, 3}) {
     if (!Files.IsOptionSelected(nTrack, 2)) continue;

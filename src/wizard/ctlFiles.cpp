@@ -169,7 +169,7 @@ void ctlFiles::SlotUsed(int nIndex, ctlSelectFilename::EControl eControl) {
 void ctlFiles::ApplyCheckBoxRule() {
   auto& a = ctlSelectFile;
   m_bLoading = true;  // what the rule clears doesn't start it again
-  // 1., 2. each slot needs the one before; a vertical alignment generated from the centre's needs none
+  // Each slot needs the one before; a vertical alignment generated from the centre's needs none
   if (m_Job.JobType() == eRailDouble && m_nPage != 1 && IsOptionSelected(1, 2)) {
     a[1].SetEnabled(false);
     a[2].SetEnabled(a[0].Checked());
@@ -177,9 +177,8 @@ void ctlFiles::ApplyCheckBoxRule() {
     a[1].SetEnabled(a[0].Checked());
     a[2].SetEnabled(a[1].Checked());
   }
-  // 3.
   a[3].SetEnabled(a[2].Enabled());
-  // 4. slots 3 and 4 exclude each other
+  // Slots 3 and 4 exclude each other
   if (a[2].Checked()) a[3].SetChecked(false);
   if (a[3].Checked()) a[2].SetChecked(false);
   m_bLoading = false;
