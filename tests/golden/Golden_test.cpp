@@ -108,9 +108,11 @@ class GoldenCase : public ::testing::Test {
   fs::path m_Case;
 };
 
-void RegisterFolder(const fs::path& Folder) {
+// False when the folder holds no case: a suite of nothing would pass.
+bool RegisterFolder(const fs::path& Folder) {
   std::vector<fs::path> aCases;
-  for (const auto& Entry : fs::directory_iterator(Folder)) {
+  std::error_code Ignored;
+  for (const auto& Entry : fs::directory_iterator(Folder, Ignored)) {
     if (fs::exists(Entry.path() / "job.toml")) aCases.push_back(Entry.path());
   }
   std::sort(aCases.begin(), aCases.end());
@@ -118,6 +120,7 @@ void RegisterFolder(const fs::path& Folder) {
     ::testing::RegisterTest("Golden", Case.filename().c_str(), nullptr, nullptr, __FILE__, __LINE__,
                             [Case]() -> ::testing::Test* { return new GoldenCase(Case); });
   }
+  return !aCases.empty();
 }
 
 }  // namespace
@@ -127,7 +130,12 @@ int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
   ::setenv("SOURCE_DATE_EPOCH", "1767323045", 1);
   ::setenv("TZ", "UTC", 1);
-  if (argc < 2) RegisterFolder(VREK_GOLDEN_CASES);
-  for (int i = 1; i < argc; ++i) RegisterFolder(argv[i]);
+  std::vector<fs::path> aFolders(argv + 1, argv + argc);
+  if (aFolders.empty()) aFolders = {VREK_GOLDEN_CASES};
+  for (const auto& Folder : aFolders) {
+    if (RegisterFolder(Folder)) continue;
+    std::cerr << "No golden case in " << Folder.string() << "\n";
+    return 1;
+  }
   return RUN_ALL_TESTS();
 }
