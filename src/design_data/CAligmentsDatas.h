@@ -29,6 +29,8 @@ void AddAligment();
 int GetAligmentType(int nAligment);
 
 const THzElements& GetAligmentHz(int nAligment);
+/// The element that holds a chainage: the first before the start, the last beyond the end. Without any, failure 9 is
+/// reported and the element is empty.
 THzElement GetAligmentHzWithChainage(int nAligment, double dChainage);
 void SetAligmentHz(int nAligment, THzElements aHz);
 const TVtElements& GetAligmentVt(int nAligment);

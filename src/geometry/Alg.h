@@ -24,7 +24,8 @@ int FindHzElement(double dChainage, const THzElements& aHz);
 int FindHzElementInOrder(double dChainage, const THzElements& aHz);
 int FindVtElement(double dChainage, const TVtElements& aVt);
 
-/// Points along one element at a distance from its start. The element's azimuth is in radians.
+/// Points along one element at a distance from its start, with the azimuth there. The element's azimuth is in radians.
+/// An arc of radius 0 fails (11) away from its start.
 THzPoint GetPointOnLine(double dDistance, const THzElement& Element);
 THzPoint GetPointOnArc(double dDistance, const THzElement& Element);
 

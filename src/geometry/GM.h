@@ -78,7 +78,8 @@ double GetClothoidStartRadius(double dAzimuth1, double dAzimuth2, double dRadius
 /// Maclaurin series of the Fresnel integrals, x along the tangent at the origin.
 void ClothoidUnitPoint(double dTau, double& dUnitX, double& dUnitY);
 
-/// Intersection of the start and end tangents of a spiral. End with its azimuth; Spiral's azimuth in radians.
+/// Intersection of the start and end tangents of a spiral. End with its azimuth; Spiral's azimuth in radians. Parallel
+/// tangents give the start.
 THzPoint GetSpiralPI(const THzPoint& End, const THzElement& Spiral);
 
 /// Mirror image in the horizontal line through LinePoint1 (the rise of the line is taken as 0 whatever

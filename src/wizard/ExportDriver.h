@@ -29,6 +29,7 @@ class ExportDriver {
   /// the last alignment written. Failures are reported with the routine's name as the source.
   bool ExportJob(int nJob);
 
+  /// Each job's alignments, then its groups of stringlines; false when the last alignment failed.
   bool ExportRoad();
   bool ExportTunnel();
   bool ExportRailSingle();
