@@ -29,6 +29,9 @@ double LeadingNumber(std::string_view sText);
 /// LeadingNumber with every "," read as ".".
 double ParseReal(std::string_view sText);
 
+/// Whether ParseReal finds a number and reads the text to its end.
+bool IsReal(std::string_view sText);
+
 /// Brings a listing's number to the form LeadingNumber reads: the last of "." and "," is the decimal sign,
 /// the other one separates thousands and goes. 1.234,50 becomes 1234.50; 1,234 becomes 1.234.
 void NormalizeNumberText(std::string& sText);

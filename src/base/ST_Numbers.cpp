@@ -69,18 +69,22 @@ class CScanner {
     return Scan;
   }
 
- private:
   // Passes over; false at the end of the text.
   bool Skip() {
     while (m_p < m_pEnd && IsPassedOver(*m_p)) ++m_p;
     return m_p < m_pEnd;
   }
 
+ private:
   // 0 where there is none or it has no digits.
   std::int64_t Exponent() {
     if (*m_p != 'E' && *m_p != 'e' && *m_p != 'D' && *m_p != 'd') return 0;
-    ++m_p;
+    const char* const pLetter = m_p++;
     const bool bNegative = Sign();
+    if (!Skip() || !IsDigit(*m_p)) {
+      m_p = pLetter;
+      return 0;
+    }
     std::int64_t nValue = 0;
     for (; Skip() && IsDigit(*m_p); ++m_p) {
       if (nValue < nHugeExponent) nValue = 10 * nValue + (*m_p - '0');
@@ -152,6 +156,12 @@ double LeadingNumber(std::string_view sText) {
 
 double ParseReal(std::string_view sText) {
   return Read(sText, ',');
+}
+
+bool IsReal(std::string_view sText) {
+  CScanner Scanner(sText, ',');
+  Scanner.Sign();
+  return Scanner.Number().bDigit && !Scanner.Skip();
 }
 
 void NormalizeNumberText(std::string& sText) {

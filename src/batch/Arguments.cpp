@@ -54,7 +54,8 @@ void AddCommon(CLI::App& App, TConvertOptions& Options, bool bCheckOnly) {
          [&Job](const std::string& sText) {
            Job.aLayers.emplace();
            for (const auto& sName : CLI::detail::split(sText, ',')) {
-             if (!sName.empty()) Job.aLayers->push_back(sName);
+             if (const auto sTrimmed = ST::Trim(sName); !sTrimmed.empty())
+               Job.aLayers->emplace_back(sTrimmed);
            }
          },
          "cross-section layers to write, separated by commas")

@@ -73,7 +73,8 @@ class CConversion {
   void KeepFiles();
   void KeepSummary();
   void KeepLayers();
-  void KeepWarnings();
+  void KeepUnknownLayers();
+  void KeepWarning(std::string sText) { m_Outcome.aMessages.push_back({false, "", std::move(sText), true}); }
   int Page() const { return m_Window.CurrentPage(); }
 
   const TJob& m_Job;
@@ -165,7 +166,7 @@ void CConversion::KeepUnused() {
       auto sText = nFile == 2
                        ? Phrase("WARN_NO_PLAN", "%1 is not used: it needs a horizontal alignment", {sPath})
                        : Phrase("WARN_NO_PROFILE", "%1 is not used: it needs a vertical alignment", {sPath});
-      m_Outcome.aMessages.push_back({false, "", std::move(sText), true});
+      KeepWarning(std::move(sText));
     }
   }
 }
@@ -191,13 +192,12 @@ void CConversion::TypeExport() {
     const bool bWanted = std::find(aNames.begin(), aNames.end(), aItems[n].Text) != aNames.end();
     PageShown.lstLayers_ItemCheck(static_cast<int>(n), bWanted);
   }
+  KeepUnknownLayers();
 }
 
 void CConversion::Export() {
-  TypeExport();
-  KeepLayers();
-  KeepWarnings();
   m_Window.cmdNext_Click();
+  for (const auto& Item : m_Window.ctlResult.lstWarnings.Items) KeepWarning(Item.Text);
   if (Page() != ePageResult) {
     if (!CLandXML::WroteWhole()) m_Outcome.eStatus = eNotWritten;
     return;
@@ -233,13 +233,16 @@ TOutcome CConversion::Run() {
   m_Window.cmdNext_Click();
   KeepFiles();
   m_Outcome.bImported = m_Window.ctlImporting.IsAllOk();
-  if (m_Options.bCheckOnly) {
-    if (m_Outcome.bImported) KeepWarnings();
-    if (m_Outcome.bImported) m_Outcome.eStatus = eConverted;
-    return m_Outcome;
-  }
   m_Window.cmdNext_Click();
-  if (Page() == ePageExporting) Export();
+  if (Page() != ePageExporting) return m_Outcome;
+  TypeExport();
+  KeepLayers();
+  if (m_Options.bCheckOnly) {
+    for (auto& sText : WarningsOf(m_Window)) KeepWarning(std::move(sText));
+    m_Outcome.eStatus = eConverted;
+  } else {
+    Export();
+  }
   return m_Outcome;
 }
 
@@ -257,8 +260,19 @@ void CConversion::KeepLayers() {
   }
 }
 
-void CConversion::KeepWarnings() {
-  for (const auto& sText : WarningsOf(m_Window)) m_Outcome.aMessages.push_back({false, "", sText, true});
+void CConversion::KeepUnknownLayers() {
+  const auto& aItems = m_Window.ctlExporting.lstLayers.Items;
+  std::string sOffered;
+  for (const auto& Item : aItems) sOffered += (sOffered.empty() ? "" : ", ") + Item.Text;
+  if (sOffered.empty()) sOffered = Phrase("WARN_NONE", "none");
+  for (const auto& sName : *m_Job.aLayers) {
+    if (std::any_of(aItems.begin(), aItems.end(), [&](const auto& Item) { return Item.Text == sName; })) {
+      continue;
+    }
+    KeepWarning(Phrase("WARN_NO_LAYER",
+                       "The layer \"%1\" isn't on offer, so nothing of it is written. On offer: %2.",
+                       {sName, sOffered}));
+  }
 }
 
 void CConversion::KeepSummary() {

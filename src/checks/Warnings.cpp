@@ -2,20 +2,21 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <set>
 
 #include "base/CodePage.h"
 #include "base/FormatReal.h"
+#include "base/ST.h"
+#include "checks/WarningTexts.h"
 #include "shell/Phrase.h"
 
 namespace vrek::Warnings {
 namespace {
 
 constexpr double dHalfStep = 0.0005;  // metres: half the last decimal that the range's boxes show
-
-std::string Metres(double dValue) {
-  return FormatReal(dValue, 3);
-}
+constexpr double dRounded = 0.0006;   // an end of the range nearer to the axis's is the axis's, rounded
+constexpr double dInfinite = std::numeric_limits<double>::infinity();
 
 bool BreaksMarkup(std::string_view sText) {
   return std::any_of(sText.begin(), sText.end(), [](char c) {
@@ -34,20 +35,17 @@ std::string Harm(const TName& Name) {
   return Name.bEncoded ? "" : Phrase("WARN_NAME_UTF8", "the document isn't valid UTF-8");
 }
 
-// "1.000, 2.000 and 3 more"
-std::string List(const std::vector<double>& aValues) {
-  constexpr std::size_t nShown = 5;
-  std::string sOut;
-  for (std::size_t n = 0; n < std::min(aValues.size(), nShown); ++n) {
-    sOut += (n > 0 ? ", " : "") + Metres(aValues[n]);
-  }
-  if (aValues.size() <= nShown) return sOut;
-  return Phrase("WARN_MORE", "%1 and %2 more", {sOut, std::to_string(aValues.size() - nShown)});
+// The range without the ends that were chosen.
+TRange Unchosen(const TExtent& Extent) {
+  const auto& [Range, Axis] = Extent;
+  return {Range.dStart > Axis.dStart + dRounded ? -dInfinite : Range.dStart,
+          Range.dEnd < Axis.dEnd - dRounded ? dInfinite : Range.dEnd};
 }
 
 // Where the elements start that the range leaves out.
 template <class TElements>
-std::vector<double> LeftOut(const TElements& aElements, const TRange& Range) {
+std::vector<double> LeftOut(const TElements& aElements, const TExtent& Extent) {
+  const auto Range = Unchosen(Extent);
   std::vector<double> aLeftOut;
   for (std::size_t n = 1; n < aElements.size(); ++n) {
     const auto& Element = aElements[n];
@@ -70,6 +68,20 @@ std::string CountOf(EChainages eWhat, std::size_t n) {
 
 }  // namespace
 
+std::string Metres(double dValue) {
+  return FormatReal(dValue, 3);
+}
+
+std::string List(const std::vector<double>& aValues) {
+  constexpr std::size_t nShown = 5;
+  std::string sOut;
+  for (std::size_t n = 0; n < std::min(aValues.size(), nShown); ++n) {
+    sOut += (n > 0 ? ", " : "") + Metres(aValues[n]);
+  }
+  if (aValues.size() <= nShown) return sOut;
+  return Phrase("WARN_MORE", "%1 and %2 more", {sOut, std::to_string(aValues.size() - nShown)});
+}
+
 TTexts OfNames(const std::vector<TName>& aNames) {
   TTexts aOut;
   std::set<std::string> Told;
@@ -82,8 +94,38 @@ TTexts OfNames(const std::vector<TName>& aNames) {
   return aOut;
 }
 
+TTexts OfRange(const TRange& Range, const std::vector<TAxis>& aAxes) {
+  const auto sStart = Metres(Range.dStart), sEnd = Metres(Range.dEnd);
+  if (Range.dStart > Range.dEnd) {
+    const auto& Axis = aAxes.front().Range;
+    return {Phrase("WARN_RANGE_FALLS",
+                   "The range begins at %1, behind its end at %2, so the document is of no use. Give a range "
+                   "that rises; the axis goes from %3 to %4.",
+                   {sStart, sEnd, Metres(Axis.dStart), Metres(Axis.dEnd)})};
+  }
+  TTexts aOut;
+  for (const auto& Axis : aAxes) {
+    if (Range.dStart <= Axis.Range.dEnd && Range.dEnd >= Axis.Range.dStart) continue;
+    aOut.push_back(Phrase("WARN_RANGE_OUTSIDE",
+                          "The range %1 to %2 lies outside the plan \"%3\", which goes from %4 to %5, so the "
+                          "document is of no use. Give a range on the plan.",
+                          {sStart, sEnd, Axis.sName, Metres(Axis.Range.dStart), Metres(Axis.Range.dEnd)}));
+  }
+  return aOut;
+}
+
+TTexts OfRangeText(std::string_view sText) {
+  if (ST::IsReal(sText)) return {};
+  return {Phrase("WARN_RANGE_TEXT",
+                 "Of the range, \"%1\" was read as %2. Type the chainage in metres, with a decimal point and "
+                 "nothing else, as 1200.500.",
+                 {sText, Metres(ST::ParseReal(sText))})};
+}
+
 TTexts OfChainages(EChainages eWhat, std::string_view sName, const std::vector<double>& aChainages,
-                   const TRange& Range, const TRange& Axis) {
+                   const TExtent& Extent) {
+  const auto Range = Unchosen(Extent);
+  const auto& Axis = Extent.Axis;
   std::vector<double> aRounded, aOutside;
   for (const double dChainage : aChainages) {
     if (dChainage >= Range.dStart && dChainage <= Range.dEnd) continue;
@@ -104,22 +146,22 @@ TTexts OfChainages(EChainages eWhat, std::string_view sName, const std::vector<d
   return aOut;
 }
 
-TTexts OfPlan(std::string_view sName, const THzElements& aHz, const TRange& Range) {
-  const auto aLeftOut = LeftOut(aHz, Range);
+TTexts OfPlan(std::string_view sName, const THzElements& aHz, const TExtent& Extent) {
+  const auto aLeftOut = LeftOut(aHz, Extent);
   if (aLeftOut.empty()) return {};
   return {Phrase("WARN_PLAN",
-                 "The plan \"%1\" has elements outside the range %2 to %3 that was offered; they are left "
-                 "out: %4. Widen the range if they are needed.",
-                 {sName, Metres(Range.dStart), Metres(Range.dEnd), List(aLeftOut)})};
+                 "The plan \"%1\" has elements outside the range %2 to %3; they are left out: %4. "
+                 "Widen the range if they are needed.",
+                 {sName, Metres(Extent.Range.dStart), Metres(Extent.Range.dEnd), List(aLeftOut)})};
 }
 
-TTexts OfProfile(std::string_view sName, const TVtElements& aVt, const TRange& Range) {
-  const auto aLeftOut = LeftOut(aVt, Range);
+TTexts OfProfile(std::string_view sName, const TVtElements& aVt, const TExtent& Extent) {
+  const auto aLeftOut = LeftOut(aVt, Extent);
   if (aLeftOut.empty()) return {};
   return {Phrase("WARN_PROFILE",
-                 "The profile \"%1\" has elements outside the range %2 to %3 that was offered; they are "
-                 "left out: %4. Widen the range if they are needed.",
-                 {sName, Metres(Range.dStart), Metres(Range.dEnd), List(aLeftOut)})};
+                 "The profile \"%1\" has elements outside the range %2 to %3; they are left out: "
+                 "%4. Widen the range if they are needed.",
+                 {sName, Metres(Extent.Range.dStart), Metres(Extent.Range.dEnd), List(aLeftOut)})};
 }
 
 TTexts OfLayers(const TCrData& Cr) {

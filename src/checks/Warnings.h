@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "rail_tunnel/clsSuperelevation.h"
+#include "rail_tunnel/clsTunnel.h"
 #include "records/CrossSections.h"
 #include "records/Elements.h"
 
@@ -32,16 +34,35 @@ struct TRange {
 /// letter outside ASCII that goes out in the code page) or is changed (a letter that the code page lacks).
 TTexts OfNames(const std::vector<TName>& aNames);
 
+/// The range that goes out, and the axis from its first to its last chainage. The range as offered is the
+/// axis rounded to 3 decimals. An end of the range that lies farther inside was chosen: nothing is told of
+/// what stands beyond it.
+struct TExtent {
+  TRange Range;
+  TRange Axis;
+};
+
+/// A plan and where it lies.
+struct TAxis {
+  std::string sName;
+  TRange Range;
+};
+
+/// A range that falls, or that a plan lies wholly outside of. aAxes: at least one.
+TTexts OfRange(const TRange& Range, const std::vector<TAxis>& aAxes);
+
+/// A chainage as typed of which only a part was read.
+TTexts OfRangeText(std::string_view sText);
+
 enum EChainages { eSections, eCantStations };
 
-/// Chainages of sections or table rows outside the range; Axis is the alignment as it is, before the range
-/// was rounded. sName: of the file.
+/// Chainages of sections or table rows outside the range. sName: of the file.
 TTexts OfChainages(EChainages eWhat, std::string_view sName, const std::vector<double>& aChainages,
-                   const TRange& Range, const TRange& Axis);
+                   const TExtent& Extent);
 
 /// Elements of a plan or profile of which the range leaves everything out.
-TTexts OfPlan(std::string_view sName, const THzElements& aHz, const TRange& Range);
-TTexts OfProfile(std::string_view sName, const TVtElements& aVt, const TRange& Range);
+TTexts OfPlan(std::string_view sName, const THzElements& aHz, const TExtent& Extent);
+TTexts OfProfile(std::string_view sName, const TVtElements& aVt, const TExtent& Extent);
 
 /// Layers with points whose first surface has a single one: they aren't offered.
 TTexts OfLayers(const TCrData& Cr);
@@ -51,5 +72,17 @@ TTexts OfGrades(std::string_view sName, const TVtElements& aVt, double dToleranc
 
 /// The plan of an RTF table whose last row has a length: the alignment goes on behind its end point.
 TTexts OfLastRow(std::string_view sName, const THzElements& aHz);
+
+/// Stations of a cant table that don't rise, and cants so small that they look like metres.
+TTexts OfCants(std::string_view sName, const std::vector<TCantStation>& aStations);
+
+/// A file with the ending ".rtf" that is no RTF, or was cut off. sFile: its name with the ending.
+TTexts OfRtf(std::string_view sFile, std::string_view sBytes);
+
+/// A text file that holds CR and also LF alone, which ends no line then.
+TTexts OfLineEnds(std::string_view sFile, std::string_view sBytes);
+
+/// Tunnel profiles that make the document no well-formed XML.
+TTexts OfTunnel(std::string_view sFile, const clsTunnel& Tunnel);
 
 }  // namespace vrek::Warnings

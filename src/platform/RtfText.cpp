@@ -2,6 +2,7 @@
 
 #include "base/CodePage.h"
 #include "platform/RtfReader.h"
+#include "platform/RtfTokens.h"
 #include "platform/TextFile.h"
 
 namespace vrek {
@@ -24,8 +25,25 @@ std::string WithLineEnds(std::string_view sText) {
 }  // namespace
 
 std::string RtfToText(std::string_view sBytes) {
-  if (!sBytes.starts_with("{\\rtf")) return WithLineEnds(CodePage::ToUtf8(sBytes));
+  if (!IsRtf(sBytes)) return WithLineEnds(CodePage::ToUtf8(sBytes));
   return Rtf::CReader(sBytes).Read();
+}
+
+bool IsRtf(std::string_view sBytes) {
+  return sBytes.starts_with("{\\rtf");
+}
+
+bool IsWholeRtf(std::string_view sBytes) {
+  using Rtf::EPiece;
+  Rtf::CTokens Tokens(sBytes);
+  int nDepth = 0;
+  for (auto ePiece = Tokens.Next(); ePiece != EPiece::eEnd; ePiece = Tokens.Next()) {
+    if (ePiece == EPiece::eOpen) ++nDepth;
+    if (ePiece == EPiece::eClose && --nDepth <= 0) return true;
+    if (ePiece == EPiece::eWord && Tokens.Word().eAction == Rtf::EAction::eBinary)
+      Tokens.SkipBytes(Tokens.Parameter(0));
+  }
+  return false;
 }
 
 std::string ReadRtfFile(const std::string& sPath) {

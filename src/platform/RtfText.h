@@ -11,6 +11,12 @@ namespace vrek {
 /// line ends becoming CR LF. Broken input gives what could be read, never a failure.
 std::string RtfToText(std::string_view sBytes);
 
+/// What RtfToText takes for RTF.
+bool IsRtf(std::string_view sBytes);
+
+/// Whether an RTF document closes its outermost group: one that was cut off doesn't.
+bool IsWholeRtf(std::string_view sBytes);
+
 /// RtfToText of a file. Failures as CTextFile.
 std::string ReadRtfFile(const std::string& sPath);
 

@@ -6,6 +6,7 @@
 #include <libxml/xmlerror.h>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <exception>
 
@@ -21,11 +22,12 @@ constexpr std::size_t nExpansionAllowance = 1 << 20;  // entities, default attri
 constexpr std::size_t nMarkupLimit = 1 << 20;         // bytes of a tag, comment, document type and so on
 constexpr int nAttributeLimit = 1000;                 // of an element
 
-// One file on its way through the parser.
+// One file, or texts in memory as one, on their way through the parser.
 struct TReading {
   std::string_view sElementName;
   int nNumber = 0;
-  int nFile = -1;
+  int nFile = -1;                              // none: the texts
+  std::array<std::string_view, 3> aTextsLeft;  // what the parser hasn't got yet
   xmlParserCtxtPtr pParser = nullptr;
   TXmlDocument Document;
   int nLevel = 0;             // of the element in hand, the root is 1
@@ -226,6 +228,16 @@ xmlParserCtxtPtr MakeContext(TReading& Reading) {
   return pContext;
 }
 
+int ReadText(TReading& Reading, char* pBuffer, int nLength) {
+  for (auto& sText : Reading.aTextsLeft) {
+    const auto n = sText.copy(pBuffer, static_cast<std::size_t>(nLength));
+    sText.remove_prefix(n);
+    Reading.nRead += n;
+    if (n > 0) return static_cast<int>(n);
+  }
+  return 0;
+}
+
 int ReadPiece(void* pContext, char* pBuffer, int nLength) {
   auto& Reading = *static_cast<TReading*>(pContext);
   if (Reading.Failed()) return -1;
@@ -234,6 +246,7 @@ int ReadPiece(void* pContext, char* pBuffer, int nLength) {
         Here(Reading, "A piece of markup longer than " + std::to_string(nMarkupLimit) + " bytes");
     return -1;
   }
+  if (Reading.nFile < 0) return ReadText(Reading, pBuffer, nLength);
   for (;;) {
     const auto n = ::read(Reading.nFile, pBuffer, static_cast<std::size_t>(nLength));
     if (n < 0 && errno == EINTR) continue;
@@ -285,6 +298,13 @@ TXmlDocument ReadXmlFile(const std::string& sPath, std::string_view sElementName
   if (Reading.Thrown) std::rethrow_exception(Reading.Thrown);
   if (!Reading.sReason.empty()) Raise(nNumber, Reading.sReason);
   return std::move(Reading.Document);
+}
+
+bool IsXmlContent(std::string_view sBytes) {
+  TReading Reading;
+  Reading.aTextsLeft = {"<a>", sBytes, "</a>"};
+  Parse(Reading);
+  return !Reading.Failed();
 }
 
 }  // namespace vrek

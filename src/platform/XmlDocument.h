@@ -46,4 +46,8 @@ inline constexpr int nXmlLevels = 256;
 /// with line and column. A prefix that isn't declared and nesting beyond nXmlLevels are parse errors too.
 TXmlDocument ReadXmlFile(const std::string& sPath, std::string_view sElementName, int nNumber);
 
+/// Whether bytes can stand inside an element of a UTF-8 document: text and elements, all of them closed,
+/// within the bounds of ReadXmlFile.
+bool IsXmlContent(std::string_view sBytes);
+
 }  // namespace vrek

@@ -63,6 +63,10 @@ double clsTunnel::GetChainageEnd() const {
   return Checked::At(m_aChainages, std::ssize(m_aChainages) - 1);
 }
 
+bool clsTunnel::IsWellFormed() const {
+  return IsXmlContent(CodePage::FromUtf8(m_sXml));
+}
+
 bool clsTunnel::ExportToLandXml(double& rChainageStart, double& rChainageEnd, double /*dChStart*/,
                                 double /*dChEnd*/) const {
   return Guard("clsTunnel.ExportToLandXml", false, [&] {

@@ -19,6 +19,9 @@ class clsTunnel {
   double GetChainageEnd() const;
   std::vector<double> GetChainages() const { return m_aChainages; }
 
+  /// Whether the text leaves the document around it well-formed; nothing refuses it if not.
+  bool IsWellFormed() const;
+
   /// Writes the file's text as one line. Limits have no effect. Failures are reported, and give false.
   bool ExportToLandXml(double& rChainageStart, double& rChainageEnd, double dChStart = dNotGiven,
                        double dChEnd = dNotGiven) const;

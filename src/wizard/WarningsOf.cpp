@@ -1,13 +1,17 @@
 #include "wizard/WarningsOf.h"
 
+#include <filesystem>
 #include <iterator>
+#include <optional>
 
-#include "base/FormatReal.h"
 #include "base/ST.h"
 #include "checks/Warnings.h"
 #include "design_data/CAligmentsDatas.h"
+#include "platform/TextFile.h"
 #include "rail_tunnel/clsSuperelevation.h"
+#include "rail_tunnel/clsTunnel.h"
 #include "shell/AppModel.h"
+#include "shell/ErrHandler.h"
 #include "shell/Phrase.h"
 #include "wizard/frmWizard.h"
 
@@ -19,38 +23,68 @@ class CCollector {
   explicit CCollector(const frmWizard& Wizard) : m_Wizard(Wizard) {}
 
   Warnings::TTexts Collect() {
-    Add(Warnings::OfNames(Names()));
+    Add([&] { return Warnings::OfNames(Names()); });
+    Add([&] { return OfRange(); });
+    for (const auto& Box : m_Wizard.ctlExporting.txtChainage) {
+      if (m_oExtent) Add([&] { return Warnings::OfRangeText(Box.Text); });
+    }
     for (int nPage = 1; nPage <= m_Wizard.ctlFiles.PagesTot(); ++nPage) {
-      if (Has(nPage, AligmentType::nHz)) AddPlan(nPage);
-      if (Has(nPage, AligmentType::nVt)) AddProfile(nPage);
-      if (Has(nPage, AligmentType::nCr)) AddSections(nPage);
-      if (Has(nPage, AligmentType::nSup)) AddCant(nPage);
+      Try([&] { AddPage(nPage); });
     }
     return std::move(m_aTexts);
   }
 
  private:
-  void Add(Warnings::TTexts aTexts) {
-    m_aTexts.insert(m_aTexts.end(), std::make_move_iterator(aTexts.begin()),
-                    std::make_move_iterator(aTexts.end()));
+  // What fails doesn't take the other warnings with it: it is logged.
+  template <class TBody>
+  static void Try(TBody&& Body) {
+    try {
+      Body();
+    } catch (...) {
+      Failure Caught = CurrentFailure();
+      Caught.sSource = "WarningsOf";
+      LogIfPossible(Caught);
+    }
+  }
+  template <class TBody>
+  void Add(TBody&& Body) {
+    Try([&] {
+      Warnings::TTexts aTexts = Body();
+      m_aTexts.insert(m_aTexts.end(), std::make_move_iterator(aTexts.begin()),
+                      std::make_move_iterator(aTexts.end()));
+    });
+  }
+  static void LogIfPossible(const Failure& Error) {
+    try {
+      LogError(Error);
+    } catch (...) {
+      // A warning is a help, no step of the conversion, and so is the note that there is none.
+    }
+  }
+  void AddPage(int nPage) {
+    AddFiles(nPage);
+    if (Has(nPage, AligmentType::nHz)) AddPlan(nPage);
+    if (Has(nPage, AligmentType::nVt)) AddProfile(nPage);
+    if (Has(nPage, AligmentType::nCr)) AddSections(nPage);
+    if (Has(nPage, AligmentType::nSup)) AddCant(nPage);
+    if (Has(nPage, AligmentType::nTnl)) AddTunnel(nPage);
   }
   static bool Has(int nPage, int nBit) { return (CAligmentsDatas::GetAligmentType(nPage) & nBit) != 0; }
 
-  // The range as offered, from the first plan; nothing when the boxes hold another: who types a range means
-  // it.
-  bool Offered(Warnings::TRange& Range, Warnings::TRange& Axis) const {
+  // The plans, the first of which gives the range as offered.
+  Warnings::TTexts OfRange() {
+    std::vector<Warnings::TAxis> aAxes;
     for (int nPage = 1; nPage <= m_Wizard.ctlFiles.PagesTot(); ++nPage) {
       if (!Has(nPage, AligmentType::nHz)) continue;
       const auto& aHz = CAligmentsDatas::GetAligmentHz(nPage);
-      if (aHz.size() < 2) return false;
-      Axis = {aHz[1].dChainage, aHz.back().dChainage + aHz.back().dLength};
-      const auto& aBoxes = m_Wizard.ctlExporting.txtChainage;
-      if (aBoxes[0].Text != FormatReal(Axis.dStart, 3) || aBoxes[1].Text != FormatReal(Axis.dEnd, 3))
-        return false;
-      Range = {m_Wizard.ctlExporting.ChainageStart(), m_Wizard.ctlExporting.ChainageEnd()};
-      return true;
+      if (aHz.size() < 2) continue;
+      aAxes.push_back({m_Wizard.ctlFiles.GetName(nPage, 1),
+                       {aHz[1].dChainage, aHz.back().dChainage + aHz.back().dLength}});
     }
-    return false;
+    if (aAxes.empty()) return {};
+    const auto& Page = m_Wizard.ctlExporting;
+    m_oExtent = {{Page.ChainageStart(), Page.ChainageEnd()}, aAxes.front().Range};
+    return Warnings::OfRange(m_oExtent->Range, aAxes);
   }
 
   // Names of tracks and layers go out in the code page, those of plans and profiles as UTF-8.
@@ -85,29 +119,52 @@ class CCollector {
     return aNames;
   }
 
+  // Listings with the ending ".rtf", whose reader takes any bytes, and texts whose lines count. A pipe can't
+  // be read again.
+  void AddFiles(int nPage) {
+    const auto& Files = m_Wizard.ctlFiles;
+    for (int nFile = 1; nFile <= 3; ++nFile) {
+      if (nFile == 2 ? !HasProfileFile(nPage) : !Files.IsSelected(nPage, nFile)) continue;
+      const bool bTunnel = nFile == 3 && m_Wizard.ctlJobType.JobType() == eTunnel;
+      const auto sPath = Files.GetFile(nPage, nFile);
+      if (std::error_code Ignored; std::filesystem::is_fifo(sPath, Ignored)) continue;
+      Add([&] {
+        const auto sBytes = ReadWholeFile(sPath);
+        const auto sFile = ST::GetFileName(sPath);
+        return IsRtfFile(sPath) && !bTunnel ? Warnings::OfRtf(sFile, sBytes)
+                                            : Warnings::OfLineEnds(sFile, sBytes);
+      });
+    }
+  }
+
+  // A generated profile has none; nor can anybody mend its samples, half a metre apart.
+  bool HasProfileFile(int nPage) const {
+    const auto& Files = m_Wizard.ctlFiles;
+    return Files.IsSelected(nPage, 2) && (nPage == 1 || !Files.IsOptionSelected(nPage, 2));
+  }
+
+  static bool IsRtfFile(std::string_view sPath) { return ST::ToUpper(ST::GetFileExtension(sPath)) == "RTF"; }
+
   void AddPlan(int nPage) {
     const auto& aHz = CAligmentsDatas::GetAligmentHz(nPage);
     const auto sName = m_Wizard.ctlFiles.GetName(nPage, 1);
-    const auto sPath = m_Wizard.ctlFiles.GetFile(nPage, 1);
-    if (ST::ToUpper(ST::GetFileExtension(sPath)) == "RTF") Add(Warnings::OfLastRow(sName, aHz));
-    Warnings::TRange Range, Axis;
-    if (Offered(Range, Axis)) Add(Warnings::OfPlan(sName, aHz, Range));
+    if (IsRtfFile(m_Wizard.ctlFiles.GetFile(nPage, 1))) {
+      Add([&] { return Warnings::OfLastRow(sName, aHz); });
+    }
+    if (m_oExtent) Add([&] { return Warnings::OfPlan(sName, aHz, *m_oExtent); });
   }
 
-  // A generated profile has samples half a metre apart, which nobody can mend.
   void AddProfile(int nPage) {
-    const auto& Files = m_Wizard.ctlFiles;
-    if (!Files.IsSelected(nPage, 2) || (nPage > 1 && Files.IsOptionSelected(nPage, 2))) return;
+    if (!HasProfileFile(nPage)) return;
     const auto& aVt = CAligmentsDatas::GetAligmentVt(nPage);
-    const auto sName = Files.GetName(nPage, 2);
-    Add(Warnings::OfGrades(sName, aVt, m_Wizard.ctlPreferences.ToleranceVt()));
-    Warnings::TRange Range, Axis;
-    if (Offered(Range, Axis)) Add(Warnings::OfProfile(sName, aVt, Range));
+    const auto sName = m_Wizard.ctlFiles.GetName(nPage, 2);
+    Add([&] { return Warnings::OfGrades(sName, aVt, m_Wizard.ctlPreferences.ToleranceVt()); });
+    if (m_oExtent) Add([&] { return Warnings::OfProfile(sName, aVt, *m_oExtent); });
   }
 
   void AddSections(int nPage) {
     const auto& Cr = CAligmentsDatas::GetAligmentCr(nPage);
-    Add(Warnings::OfLayers(Cr));
+    Add([&] { return Warnings::OfLayers(Cr); });
     std::vector<double> aChainages;
     for (const auto& Section : Cr.Sections) aChainages.push_back(Section.dChainage);
     AddChainages(Warnings::eSections, m_Wizard.ctlFiles.GetName(nPage, 3), aChainages);
@@ -115,28 +172,32 @@ class CCollector {
 
   void AddCant(int nPage) {
     const auto oCant = CAligmentsDatas::GetAligmentSup(nPage);
-    if (oCant)
-      AddChainages(Warnings::eCantStations, m_Wizard.ctlFiles.GetName(nPage, 4), oCant->GetChainages());
+    if (!oCant) return;
+    const auto sName = m_Wizard.ctlFiles.GetName(nPage, 4);
+    Add([&] { return Warnings::OfCants(sName, oCant->Stations()); });
+    AddChainages(Warnings::eCantStations, sName, oCant->GetChainages());
+  }
+
+  void AddTunnel(int nPage) {
+    const auto oTunnel = CAligmentsDatas::GetAligmentTnl(nPage);
+    const auto sPath = m_Wizard.ctlFiles.GetFile(nPage, 3);
+    if (oTunnel) Add([&] { return Warnings::OfTunnel(ST::GetFileName(sPath), *oTunnel); });
   }
 
   void AddChainages(Warnings::EChainages eWhat, const std::string& sName,
                     const std::vector<double>& aChainages) {
-    Warnings::TRange Range, Axis;
-    if (Offered(Range, Axis)) Add(Warnings::OfChainages(eWhat, sName, aChainages, Range, Axis));
+    if (m_oExtent) Add([&] { return Warnings::OfChainages(eWhat, sName, aChainages, *m_oExtent); });
   }
 
   const frmWizard& m_Wizard;
+  std::optional<Warnings::TExtent> m_oExtent;  // none without a plan
   Warnings::TTexts m_aTexts;
 };
 
 }  // namespace
 
 std::vector<std::string> WarningsOf(const frmWizard& Wizard) {
-  try {
-    return CCollector(Wizard).Collect();
-  } catch (...) {
-    return {};  // a help, no step of the conversion: what is wrong shows there
-  }
+  return CCollector(Wizard).Collect();
 }
 
 }  // namespace vrek

@@ -8,8 +8,9 @@ namespace vrek {
 
 class frmWizard;
 
-/// The warnings for what an export with the present choices of the pages writes, from the data in the store:
-/// call it before the export, which may use up the cross-sections. Never fails; without data none.
+/// The warnings for what an export with the present choices of the pages writes, from the imported files and
+/// the data in the store. The range is the Exporting page's, which must have been entered. Call it before the
+/// export, which may use up the cross-sections. Never fails: a warning that can't be worked out is logged.
 std::vector<std::string> WarningsOf(const frmWizard& Wizard);
 
 }  // namespace vrek

@@ -172,5 +172,15 @@ TEST(IsNumberText, WantsADigitAndNothingButSignsBesides) {
   }
 }
 
+TEST(IsReal, WantsANumberAndNothingBehindIt) {
+  for (const auto* sText : {"1", " 1200.5 ", "-1,5", "+.5", "5.", "1e3", "1D-2", "1 200", "\t1\n"}) {
+    EXPECT_TRUE(ST::IsReal(sText)) << sText;
+  }
+  for (const auto* sText : {"", " ", "-", ".", "0+200", "1,234.5", "1.2.3", "1+000 abc", "12 m", "1e", "1e+",
+                            "e5", "--1", "1\r"}) {
+    EXPECT_FALSE(ST::IsReal(sText)) << sText;
+  }
+}
+
 }  // namespace
 }  // namespace vrek

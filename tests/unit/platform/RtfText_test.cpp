@@ -138,5 +138,22 @@ TEST(RtfText, SurvivesGroupsOfAnyDepth) {
   EXPECT_EQ(RtfToText("{\\rtf1 a{\\info" + sOpen + "b" + sClose + "}c}"), "ac");
 }
 
+TEST(RtfText, KnowsADocumentThatWasCutOff) {
+  const std::pair<const char*, bool> aCases[] = {
+      {R"({\rtf1 a{b}c})", true},
+      {R"({\rtf1 a} behind {)", true},
+      {R"({\rtf1 a{b}c)", false},
+      {R"({\rtf1 a\})", false},
+      {R"({\rtf1 a\'7d)", false},
+      {R"({\rtf1 a\{})", true},
+      {R"({\rtf1{\bin3 }}}a}b})", true},
+      {R"({\rtf1{\bin3 }}}a}b)", false},
+      {R"({\rtf1{\bin99 a}})", false},
+      {R"({\rtf1{\*\x a)", false},
+      {"", false},
+  };
+  for (const auto& [sBytes, bWhole] : aCases) EXPECT_EQ(IsWholeRtf(sBytes), bWhole) << sBytes;
+}
+
 }  // namespace
 }  // namespace vrek

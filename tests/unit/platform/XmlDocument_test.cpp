@@ -203,5 +203,18 @@ TEST_F(XmlFile, LeavesStandardErrorAlone) {
   EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
 }
 
+TEST(XmlContent, IsTextAndElementsThatAreClosed) {
+  using namespace std::string_literals;
+  for (const auto& sBytes :
+       {""s, "a"s, "<p/>"s, "  <p a='\xc3\xb1'>&amp;<!--x--></p> "s, Repeat("<p/>\n", 300'000)}) {
+    EXPECT_TRUE(IsXmlContent(sBytes)) << sBytes.substr(0, 40);
+  }
+  for (const auto& sBytes :
+       {"<p>"s, "</p>"s, "<p a='1'b='2'/>"s, "<p a='\xf1'/>"s, "<p>\0</p>"s, "\xff\xfe"s, "&e;"s,
+        "<?xml version='1.0'?><p/>"s, "<q:p/>"s, Repeat("<p>", 300) + Repeat("</p>", 300)}) {
+    EXPECT_FALSE(IsXmlContent(sBytes)) << sBytes.substr(0, 40);
+  }
+}
+
 }  // namespace
 }  // namespace vrek

@@ -78,6 +78,42 @@ TEST_P(LanguageTexts, KeepTheHeadsOfReportColumnsWithinTheirWidth) {
   }
 }
 
+/// The value of a literal of one or several parts, "..." "...", that begins at nPos; "" where none does.
+std::string Literal(const std::string& sText, std::size_t nPos) {
+  std::string sOut;
+  for (; (nPos = sText.find_first_not_of(" \n", nPos)) != std::string::npos && sText[nPos] == '"'; ++nPos) {
+    for (++nPos; sText[nPos] != '"'; ++nPos) {
+      if (sText[nPos] == '\\') ++nPos;
+      sOut += sText[nPos];
+    }
+  }
+  return sOut;
+}
+
+using LanguageDefaults = test::AppTest;
+
+// Phrase("WARN_NONE", "none") and its like: what stands for a token that the file lacks.
+TEST_F(LanguageDefaults, AreTheTextsOfTheEnglishFile) {
+  Platform.sProgramDirectory = VREK_LANGUAGE_FOLDER;
+  ASSERT_TRUE(Model.TokenFile.ReadFile("QuennelV2.lng"));
+  int nCompared = 0;
+  for (const auto& Entry : fs::recursive_directory_iterator(VREK_LANGUAGE_FOLDER "/../src")) {
+    if (Entry.path().extension() != ".cpp") continue;
+    const auto sText = ReadFile(Entry.path());
+    for (const auto& Token : Model.TokenFile.Tokens()) {
+      const auto sQuoted = '"' + Token.sToken + "\",";
+      for (auto n = sText.find(sQuoted); n != std::string::npos; n = sText.find(sQuoted, n + 1)) {
+        const auto sDefault = Literal(sText, n + sQuoted.size());
+        if (sDefault.empty() || Model.GetToken(sDefault) != sDefault)
+          continue;  // another token, a list of them
+        EXPECT_EQ(sDefault, Token.sText) << Token.sToken;
+        ++nCompared;
+      }
+    }
+  }
+  EXPECT_GT(nCompared, 50);
+}
+
 INSTANTIATE_TEST_SUITE_P(Files, LanguageTexts, ::testing::Values("QuennelV2.lng", "QuennelV2.es.lng"));
 
 }  // namespace

@@ -1,0 +1,15 @@
+// How warnings show chainages.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace vrek::Warnings {
+
+/// With 3 decimals.
+std::string Metres(double dValue);
+
+/// "1.000, 2.000 and 3 more"
+std::string List(const std::vector<double>& aValues);
+
+}  // namespace vrek::Warnings
