@@ -76,7 +76,7 @@ TEST_F(OutputFile, DropsWhatFailedAndTriesLaterBytesAfresh) {
   pFile->Write("lost,");
   const auto nFailure = FailureOf([&] { pFile->Flush(); });
   ::setrlimit(RLIMIT_FSIZE, &Before);
-  EXPECT_EQ(nFailure, Error::nPathFileAccess);
+  EXPECT_EQ(nFailure, Error::nDiskFull);
   pFile->Write("last");
   pFile->Close();
   EXPECT_EQ(ReadFile(Path("out.xml")), "first,last");
