@@ -59,13 +59,6 @@ std::string RandomLetters() {
   return sOut;
 }
 
-fs::path ResolvedTarget(const std::string& sTarget) {
-  if (sTarget.empty()) Raise(Error::nPathFileAccess);
-  std::error_code Ignored;
-  const fs::path Resolved = fs::canonical(sTarget, Ignored);
-  return Resolved.empty() ? fs::path(sTarget) : Resolved;
-}
-
 /// The permissions of a target that is there already, which must be a file that may be written; else 0.
 mode_t PermissionsOf(const std::string& sTarget) {
   struct stat Status {};
@@ -115,9 +108,25 @@ void Synchronise(const std::string& sPath, bool bMustWork) {
 
 }  // namespace
 
+std::string ResolvedTarget(const std::string& sPath) {
+  constexpr int nMostLinks = 40;
+  fs::path Path = sPath;
+  std::error_code Error;
+  for (int n = 0; n < nMostLinks; ++n) {
+    const auto Resolved = fs::canonical(Path, Error);
+    if (!Error) return Resolved.string();
+    const auto Link = fs::read_symlink(Path, Error);
+    if (Error) break;
+    Path = Path.parent_path() / Link;
+  }
+  const auto Folder = fs::canonical(Path.has_parent_path() ? Path.parent_path() : fs::path("."), Error);
+  return Error ? Path.string() : (Folder / Path.filename()).string();
+}
+
 StagedFile::StagedFile(const std::string& sTarget) {
-  const fs::path Target = ResolvedTarget(sTarget);
-  m_sTarget = Target.string();
+  if (sTarget.empty()) Raise(Error::nPathFileAccess);
+  m_sTarget = ResolvedTarget(sTarget);
+  const fs::path Target = m_sTarget;
   const mode_t nMode = PermissionsOf(m_sTarget);
   const SignalsHeld Held;
   m_sPath = CreateBeside(Target, nMode);

@@ -11,6 +11,9 @@ namespace vrek {
 inline constexpr int aEndingSignals[] = {SIGTERM, SIGINT,  SIGHUP,  SIGQUIT, SIGPIPE,
                                          SIGXCPU, SIGALRM, SIGUSR1, SIGUSR2};
 
+/// Where a file written under a path comes to lie: links are followed, also one that leads to nothing yet.
+std::string ResolvedTarget(const std::string& sPath);
+
 class StagedFile {
  public:
   /// Creates ".<name>.vrek-XXXXXX", empty, in the folder of the target, with the permissions that the target
