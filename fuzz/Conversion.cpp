@@ -8,7 +8,7 @@ namespace vrek::fuzz {
 void Conversion(std::string_view sBytes) {
   const auto Outcome = Convert(ReadProject(sBytes), OwnFolder(), "/dev/null");
   Require(Fault(Outcome).empty());
-  Require(!batch::OutcomesAsJson({Outcome}, false).empty());
+  Require(!batch::OutcomesAsJson({Outcome}).empty());
 }
 
 }  // namespace vrek::fuzz

@@ -24,16 +24,12 @@ std::vector<std::string> Arguments(std::string_view sBytes) {
 }
 
 void ReadBatchArguments(const std::vector<const char*>& aArguments) {
-  // A job file is read while the arguments are: whatever file the path of a fuzzed one happens to name.
-  for (const char* pArgument : aArguments) {
-    if (std::string_view(pArgument) == "run") return;
-  }
   std::ostringstream Out, Err;
   int nStatus = 0;
   const auto Read =
       batch::ReadArguments(static_cast<int>(aArguments.size()), aArguments.data(), Out, Err, nStatus);
   if (Read) {
-    Require(!Read->aJobs.empty());
+    Require(Read->Job.has_value() == Read->aJobFiles.empty());
   } else {
     Require(nStatus == batch::eUsage ? !Err.str().empty() : !Out.str().empty());
   }

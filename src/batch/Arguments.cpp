@@ -7,7 +7,6 @@
 #include "base/ST.h"
 #include "batch/Completion.h"
 #include "batch/ExitStatus.h"
-#include "batch/JobFile.h"
 
 namespace vrek::batch {
 namespace {
@@ -27,7 +26,8 @@ void AddNumber(CLI::App& App, const std::string& sName, std::optional<std::strin
          sName, [&sValue](const std::string& sText) { sValue = sText; }, sHelp)
       ->type_name("METRES")
       ->check([](const std::string& sText) {
-        return ST::IsNumberText(sText) ? std::string() : "\"" + sText + "\" is no number";
+        return ST::IsReal(sText) ? std::string()
+                                 : "\"" + sText + "\" is no number: write metres, as 1200 or 1200.5";
       });
 }
 
@@ -137,22 +137,11 @@ TCommands AddCommands(CLI::App& App, TConvertOptions& Options, bool bCheckOnly) 
 void TakeJobs(const TCommands& Commands, const TConvertOptions& Options, TArguments& Arguments) {
   for (std::size_t n = 0; n < Commands.aJobs.size(); ++n) {
     if (!Commands.aJobs[n]->parsed()) continue;
-    Arguments.aJobs.push_back(Options.Job);
-    Arguments.aJobs.back().nJob = static_cast<int>(n);
+    Arguments.Job = Options.Job;
+    Arguments.Job->nJob = static_cast<int>(n);
   }
-  if (!Commands.pRun->parsed()) return;
+  Arguments.aJobFiles = Options.aJobFiles;
   Arguments.nProcesses = Options.nProcesses;
-  if (Options.nProcesses > 0) {
-    Arguments.aJobFiles = Options.aJobFiles;
-    return;
-  }
-  for (const auto& sFile : Options.aJobFiles) {
-    Arguments.aJobs.push_back(ReadJobFile(sFile));
-    if (!Arguments.bCheckOnly && Arguments.aJobs.back().sOutput.empty()) {
-      throw UsageError(sFile + ": \"output\" is missing");
-    }
-  }
-  Arguments.bManyJobs = Options.aJobFiles.size() > 1;
 }
 
 }  // namespace
@@ -184,9 +173,6 @@ std::optional<TArguments> ReadArguments(int argc, const char* const* argv, std::
       Err << "vrek-batch: unknown command \"" << argv[1] << "\"\n";
     }
     nStatus = App.exit(Error, Out, Err) == 0 ? eConverted : eUsage;
-  } catch (const UsageError& Error) {
-    Err << "vrek-batch: " << Error.what() << "\n";
-    nStatus = eUsage;
   }
   return {};
 }

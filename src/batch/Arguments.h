@@ -20,10 +20,9 @@ struct TArguments {
   bool bCheckOnly = false;
   bool bJson = false;
   bool bQuiet = false;
-  bool bManyJobs = false;  ///< jobs came from job files: more than one may be there
-  std::vector<TJob> aJobs;
-  int nProcesses = 0;  ///< above 0: each job file is to be run in a process of its own, so many at a time
-  std::vector<std::string> aJobFiles;  ///< these; aJobs is empty then
+  std::optional<TJob> Job;             ///< from the options; without it:
+  std::vector<std::string> aJobFiles;  ///< job files to run
+  int nProcesses = 0;                  ///< above 0: each in a process of its own, so many at a time
 };
 
 /// Reads the command line. No value: there is nothing to run, and nStatus is the exit status (help and

@@ -1,6 +1,7 @@
 #include "batch/Conversion.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include "batch/BatchPlatform.h"
 #include "batch/JobFile.h"
@@ -17,6 +18,8 @@
 
 namespace vrek::batch {
 namespace {
+
+constexpr const char* sCritical = "critical";
 
 // The application object of one job, in place for as long as this lives.
 class CAppScope {
@@ -68,8 +71,10 @@ class CConversion {
   void Plot();
   void AddBox(std::string_view sText, EIcon eIcon) {
     m_Outcome.aMessages.push_back(
-        {true, eIcon == EIcon::eCritical ? "critical" : "warning", std::string(sText), false});
+        {true, eIcon == EIcon::eCritical ? sCritical : "warning", std::string(sText), false});
   }
+  void KeepCaptions(int nPage);
+  std::string WhereIs(const std::string& sKey) const;
   void KeepFiles();
   void KeepSummary();
   void KeepLayers();
@@ -80,6 +85,7 @@ class CConversion {
   const TJob& m_Job;
   const TConversionOptions& m_Options;
   TOutcome m_Outcome;
+  std::array<std::array<std::string, 4>, 3> m_aCaptions;  // of the slots of each page
   BatchPlatform m_Platform;
   CAppScope m_App;
   frmWizard m_Window;
@@ -98,7 +104,10 @@ void CConversion::Start() {
   bool bRead = false;
   TopLevel([&] { bRead = Model.TokenFile.ReadFile(m_Options.sLanguageFile); });
   if (!bRead) {
-    throw UsageError("the language file " + m_Options.sLanguageFile + " isn't beside the program");
+    const auto sPath =
+        std::filesystem::path(Model.Platform().pEnvironment->ProgramDirectory()) / m_Options.sLanguageFile;
+    throw UsageError("the language file " + m_Options.sLanguageFile +
+                     (std::filesystem::exists(sPath) ? " can't be read" : " isn't beside the program"));
   }
   m_Platform.Events.Watch(&m_Window.ctlProgress);
   m_Window.Load();
@@ -132,6 +141,7 @@ bool CConversion::ChooseFiles() {
   auto& Files = m_Window.ctlFiles;
   for (int nPage = 1; nPage <= Files.PagesTot(); ++nPage) {
     Files.ShowPage(nPage);
+    KeepCaptions(nPage);
     TypeSlots(m_Job.aFiles[static_cast<std::size_t>(nPage - 1)]);
   }
   m_Window.cmdNext_Click();
@@ -246,9 +256,34 @@ TOutcome CConversion::Run() {
   return m_Outcome;
 }
 
+void CConversion::KeepCaptions(int nPage) {
+  const auto& aSlots = m_Window.ctlFiles.ctlSelectFile;
+  for (std::size_t n = 0; n < aSlots.size(); ++n) {
+    m_aCaptions.at(static_cast<std::size_t>(nPage - 1))[n] = aSlots[n].chkFile.Caption;
+  }
+}
+
+// Page, slot and file of a node as "PAGE2@Vt"; "" for that of a page.
+std::string CConversion::WhereIs(const std::string& sKey) const {
+  constexpr std::size_t nDigit = 4, nKind = 6;  // "PAGE", the number, "@"
+  if (sKey.size() <= nKind) return {};
+  const auto& Files = m_Window.ctlFiles;
+  const int nPage = sKey[nDigit] - '0';
+  const auto sKind = sKey.substr(nKind);
+  const int nFile = sKind == "Hz" ? 1 : sKind == "Vt" ? 2 : Files.IsSelected(nPage, 3) ? 3 : 4;
+  const auto sSlot = m_Window.ctlImporting.GetText(sKey.substr(0, nKind - 1)) + ", " +
+                     m_aCaptions.at(static_cast<std::size_t>(nPage - 1))[static_cast<std::size_t>(nFile - 1)];
+  if (nFile == 2 && nPage > 1 && (Files.IsOptionSelected(nPage, 2) || Files.IsOptionSelected(1, 2))) {
+    return sSlot +
+           ": can't be generated; that needs this track's plan and cant table, and plan and profile of the " +
+           "alignment it is made from";
+  }
+  return sSlot + ": " + std::filesystem::path(Files.GetFile(nPage, nFile)).filename().string();
+}
+
 void CConversion::KeepFiles() {
   for (const auto& Node : m_Window.ctlImporting.trFiles) {
-    TFileResult File{Node.sKey, Node.sText, static_cast<int>(Node.eImage), {}};
+    TFileResult File{Node.sKey, Node.sText, static_cast<int>(Node.eImage), {}, WhereIs(Node.sKey)};
     if (Node.eImage == EImage::eFailure) File.sReport = CAligmentCheck::GetReportText(Node.sText, Node.sKey);
     m_Outcome.aFiles.push_back(std::move(File));
   }
@@ -289,6 +324,12 @@ void CConversion::KeepSummary() {
 }
 
 }  // namespace
+
+int CountFailures(const TOutcome& Outcome) {
+  return static_cast<int>(
+      std::count_if(Outcome.aMessages.begin(), Outcome.aMessages.end(),
+                    [](const TMessage& Message) { return Message.bBox && Message.sIcon == sCritical; }));
+}
 
 TOutcome RunJob(const TJob& Job, const TConversionOptions& Options) {
   if (const auto sLost = Overwritten(Job); !Options.bCheckOnly && !sLost.empty()) throw UsageError(sLost);

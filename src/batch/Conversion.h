@@ -21,6 +21,7 @@ struct TFileResult {
   std::string sName;
   int nMark = 0;        ///< 0 none, 1 success, 2 failure
   std::string sReport;  ///< what a click on a failed node shows
+  std::string sWhere;   ///< page, slot and file, for people
 };
 
 struct TRowResult {
@@ -53,6 +54,9 @@ struct TOutcome {
   std::vector<TMessage> aMessages;
   EExitStatus eStatus = eRefused;
 };
+
+/// How many failures the messages tell: those of critical boxes.
+int CountFailures(const TOutcome& Outcome);
 
 struct TConversionOptions {
   bool bCheckOnly = false;        ///< import and check, write nothing

@@ -10,4 +10,18 @@ enum EExitStatus {
   eNotWritten = 3,  ///< the document could not be written whole; an earlier one is untouched
 };
 
+/// A status in words, for a line behind the name of a job.
+inline const char* InWords(int nStatus, bool bCheckOnly) {
+  switch (nStatus) {
+    case eConverted:
+      return bCheckOnly ? "good" : "converted";
+    case eRefused:
+      return "refused";
+    case eUsage:
+      return "wrong job file";
+    default:
+      return "not written";
+  }
+}
+
 }  // namespace vrek::batch

@@ -18,7 +18,8 @@ struct TAligmentFiles {
 };
 
 struct TJob {
-  int nJob = 0;  ///< 0 road, 1 tunnel, 2 rail, 3 double
+  std::string sJobFile;  ///< where it was read from; empty: from the command line
+  int nJob = 0;          ///< 0 road, 1 tunnel, 2 rail, 3 double
   std::string sOutput;
   std::string sName;     ///< empty: taken from the output file
   std::string sCreator;  ///< empty: the user's name
@@ -30,9 +31,12 @@ struct TJob {
   std::array<TAligmentFiles, 3> aFiles;             ///< pages: the alignment; or centre, left, right
 };
 
-/// What would be lost when the job runs: an input that is the output or the drawing as well, or both in one
-/// file, in words; empty when nothing would.
+/// What would be lost when the job runs: an input or the job file that is the output or the drawing as well, or
+/// both of these in one file, in words; empty when nothing would. Links count as what they lead to.
 std::string Overwritten(const TJob& Job);
+
+/// The same between jobs: two that write one file, or one that writes what another reads.
+std::string OverwrittenByOthers(const std::vector<const TJob*>& aJobs);
 
 inline constexpr std::array<const char*, 4> aJobNames = {"road", "tunnel", "rail", "double"};
 

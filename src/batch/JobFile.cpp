@@ -6,7 +6,11 @@
 #include <cmath>
 #include <filesystem>
 #include <initializer_list>
+#include <sstream>
 #include <string_view>
+
+#include "base/Failure.h"
+#include "platform/TextFile.h"
 
 namespace vrek::batch {
 namespace {
@@ -170,6 +174,25 @@ TJob ReadJob(const toml::table& Table, const std::string& sPath) {
   return Job;
 }
 
+// The text of a job file, of a shape that the parser, which goes deeper with each point of a key, can take.
+std::string PlainText(const std::string& sPath) {
+  constexpr std::size_t nMostBytes = 65536;
+  constexpr std::ptrdiff_t nMostPoints = 256;
+  auto sText = ReadWholeFile(sPath);
+  if (sText.size() > nMostBytes) {
+    throw UsageError(sPath + ": longer than " + std::to_string(nMostBytes) + " bytes");
+  }
+  std::istringstream Lines(sText);
+  int nLine = 0;
+  for (std::string sLine; std::getline(Lines, sLine);) {
+    ++nLine;
+    if (std::count(sLine.begin(), sLine.end(), '.') <= nMostPoints) continue;
+    throw UsageError(sPath + ":" + std::to_string(nLine) + ": more than " + std::to_string(nMostPoints) +
+                     " points in a line");
+  }
+  return sText;
+}
+
 }  // namespace
 
 TJob ReadJobFile(const std::string& sPath) {
@@ -177,12 +200,31 @@ TJob ReadJobFile(const std::string& sPath) {
   if (std::filesystem::is_directory(sPath, Ignored))
     throw UsageError(sPath + ": is a folder, not a job file");
   try {
-    return ReadJob(toml::parse_file(sPath), sPath);
+    auto Job = ReadJob(toml::parse(PlainText(sPath), sPath), sPath);
+    Job.sJobFile = sPath;
+    return Job;
   } catch (const toml::parse_error& Error) {
     const auto nLine = Error.source().begin.line;
     throw UsageError(sPath + (nLine > 0 ? ":" + std::to_string(nLine) : "") + ": " +
                      std::string(Error.description()));
+  } catch (const Failure& Error) {
+    throw UsageError(sPath + ": " + Error.sDescription);
   }
+}
+
+std::vector<TJobFile> ReadJobFiles(const std::vector<std::string>& aPaths, bool bNeedsOutput) {
+  std::vector<TJobFile> aOut;
+  for (const auto& sPath : aPaths) {
+    aOut.push_back({sPath, {}, {}});
+    try {
+      auto Job = ReadJobFile(sPath);
+      if (bNeedsOutput && Job.sOutput.empty()) throw UsageError(sPath + ": \"output\" is missing");
+      aOut.back().Job = std::move(Job);
+    } catch (const UsageError& Error) {
+      aOut.back().sFault = Error.what();
+    }
+  }
+  return aOut;
 }
 
 }  // namespace vrek::batch

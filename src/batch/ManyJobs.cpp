@@ -2,54 +2,21 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <filesystem>
 #include <iomanip>
 #include <list>
-#include <map>
 #include <ostream>
 
 #include "batch/ChildRun.h"
 #include "batch/ExitStatus.h"
-#include "batch/JobFile.h"
 #include "batch/OutcomeJson.h"
 
 namespace vrek::batch {
 namespace {
 
-// Where a job file writes to; empty when it can't be read: its own run tells what is wrong with it.
-std::string OutputOf(const std::string& sJobFile) {
-  try {
-    const auto sOutput = ReadJobFile(sJobFile).sOutput;
-    return sOutput.empty() ? sOutput : std::filesystem::absolute(sOutput).lexically_normal().string();
-  } catch (const UsageError&) {
-    return {};
-  }
-}
-
-// The order in which projects end isn't known: two of them with one output would race for it.
-void RefuseSharedOutputs(const std::vector<std::string>& aJobFiles) {
-  std::map<std::string, std::string> aWriters;
-  for (const auto& sFile : aJobFiles) {
-    const auto sOutput = OutputOf(sFile);
-    if (sOutput.empty()) continue;
-    const auto [it, bNew] = aWriters.emplace(sOutput, sFile);
-    if (!bNew) throw UsageError(it->second + " and " + sFile + " both write " + sOutput);
-  }
-}
-
 std::string InWords(const TRunResult& Run, bool bCheckOnly) {
   if (Run.nSignal != 0) return "killed by signal " + std::to_string(Run.nSignal);
   if (!Run.bRan) return "could not be run";
-  switch (Run.nStatus) {
-    case eConverted:
-      return bCheckOnly ? "good" : "converted";
-    case eRefused:
-      return "refused";
-    case eUsage:
-      return "wrong job file";
-    default:
-      return "not written";
-  }
+  return batch::InWords(Run.nStatus, bCheckOnly);
 }
 
 class CManyJobs {
@@ -134,7 +101,6 @@ class CManyJobs {
 }  // namespace
 
 int RunManyJobs(const TManyJobs& Jobs, std::ostream& Out, std::ostream& Err) {
-  if (!Jobs.bCheckOnly) RefuseSharedOutputs(Jobs.aJobFiles);
   CManyJobs Many(Jobs, Err);
   Many.Run();
   if (!Jobs.bQuiet) Many.TellTable();

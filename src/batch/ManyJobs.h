@@ -18,8 +18,7 @@ struct TManyJobs {
 
 /// Runs this program once for each job file. What the runs say comes to Err as each one ends, at the end a
 /// table of all; with JSON their outcomes come to Out as one array, in the order of the files. Gives the
-/// worst exit status of all; a run that was killed counts as not written. Two job files with the same
-/// output: UsageError, and nothing is run.
+/// worst exit status of all; a run that was killed counts as not written.
 int RunManyJobs(const TManyJobs& Jobs, std::ostream& Out, std::ostream& Err);
 
 }  // namespace vrek::batch

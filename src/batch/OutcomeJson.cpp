@@ -45,14 +45,10 @@ std::string AsText(const ordered_json& Json) {
 
 }  // namespace
 
-std::string OutcomesAsJson(const std::vector<TOutcome>& aOutcomes, bool bArray) {
-  ordered_json Json;
-  if (bArray) {
-    Json = ordered_json::array();
-    for (const auto& Outcome : aOutcomes) Json.push_back(AsJson(Outcome));
-  } else if (!aOutcomes.empty()) {
-    Json = AsJson(aOutcomes.front());
-  }
+std::string OutcomesAsJson(const std::vector<TOutcome>& aOutcomes) {
+  if (aOutcomes.size() == 1) return AsText(AsJson(aOutcomes.front()));
+  auto Json = ordered_json::array();
+  for (const auto& Outcome : aOutcomes) Json.push_back(AsJson(Outcome));
   return AsText(Json);
 }
 

@@ -9,7 +9,7 @@
 namespace vrek::batch {
 
 /// One object for one job, an array for several; UTF-8, ends with a line end.
-std::string OutcomesAsJson(const std::vector<TOutcome>& aOutcomes, bool bArray);
+std::string OutcomesAsJson(const std::vector<TOutcome>& aOutcomes);
 
 /// The objects that single runs printed, as one array in their order.
 std::string JoinOutcomes(const std::vector<std::string>& aOutcomes);

@@ -1,9 +1,6 @@
 // The program on the command line: what it writes, what it says, how it ends.
 #include <algorithm>
-#include <chrono>
-#include <csignal>
 #include <nlohmann/json.hpp>
-#include <thread>
 
 #include "Program.h"
 
@@ -76,6 +73,11 @@ TEST_F(Command, TellsWrongUsage) {
   Write("section.toml", "job = \"rail\"\noutput = \"o\"\n");
   Write("side.toml", "job = \"double\"\noutput = \"o\"\n\n[centre]\ncant = \"c\"\n");
   Write("range.toml", "job = \"rail\"\noutput = \"o\"\nformats = 99999\n[alignment]\n");
+  std::string sDeep = "job = \"rail\"\na";
+  for (int n = 0; n < 50'000; ++n) sDeep += ".a";
+  Write("deep.toml", sDeep.substr(0, 60'000) + " = 1\n");
+  Write("long.toml", std::string(70'000, '\n'));
+  Write("itself.toml", "job = \"rail\"\noutput = \"itself.toml\"\n[alignment]\nhorizontal = \"a\"\n");
   const std::string sPlan = Example("rail/Track.plt");
   const struct {
     std::vector<std::string> aArguments;
@@ -87,6 +89,8 @@ TEST_F(Command, TellsWrongUsage) {
       {{"rail", "--hz"}, "--hz"},
       {{"rail", "--cross", "x", "-o", "o"}, "--cross"},
       {{"rail", "--hz", sPlan, "-o", "o", "--from", "ten"}, "\"ten\" is no number"},
+      {{"rail", "--hz", sPlan, "-o", "o", "--from", "0+200"}, "\"0+200\" is no number: write metres"},
+      {{"rail", "--hz", sPlan, "-o", "o", "--to", "1,000.5"}, "\"1,000.5\" is no number"},
       {{"rail", "--hz", sPlan, "-o", "o", "--tolerance-hz", "1e-3"}, "no number"},
       {{"rail", "--hz", sPlan, "-o", "o", "--formats", "-1"}, "--formats"},
       {{"road", "--hz", sPlan, "-o", "o"}, "the job \"road\" isn't on offer with formats 4"},
@@ -102,6 +106,9 @@ TEST_F(Command, TellsWrongUsage) {
       {{"run", "broken.toml"}, "broken.toml:2: "},
       {{"run", "section.toml"}, "[alignment] is missing"},
       {{"run", "side.toml"}, "side.toml:5: unknown key \"centre.cant\""},
+      {{"run", "deep.toml"}, "deep.toml:2: more than 256 points"},
+      {{"run", "long.toml"}, "long.toml: longer than 65536 bytes"},
+      {{"run", "itself.toml"}, "itself.toml is the job file: it would be overwritten"},
       {{"run", "range.toml"}, "range.toml:3: \"formats\" is out of range"},
   };
   for (const auto& Row : aRows) {
@@ -150,6 +157,8 @@ TEST_F(Command, AnInputIsNeverTheOutput) {
   }
   fs::create_symlink(sPlan, Directory / "link.xml");
   EXPECT_EQ(Run({"rail", "--hz", sPlan, "-o", "link.xml"}).nStatus, 2);
+  fs::create_symlink("later.xml", Directory / "early.xml");
+  EXPECT_EQ(Run({"rail", "--hz", sPlan, "-o", "early.xml", "--plot", "later.xml"}).nStatus, 2);
   EXPECT_EQ(Run({"rail", "--hz", sPlan, "-o", "o.xml", "--plot", "./o.xml"}).nStatus, 2);
 }
 
@@ -257,32 +266,6 @@ TEST_F(Command, LayersAreChosenByName) {
   aRoad.back() = "";
   EXPECT_EQ(Run(aRoad).nStatus, 0);
   EXPECT_FALSE(Has(Read(Directory / "out.xml"), "<CrossSects"));
-}
-
-TEST_F(Command, ASignalEndsItWithoutLeavings) {
-  const auto sSections = LongRoad("long.trv");
-  Write("out.xml", "earlier");
-  for (const int nSignal : {SIGTERM, SIGINT, SIGHUP}) {
-    const pid_t nChild = ::fork();
-    if (nChild == 0) {
-      if (::chdir(Directory.c_str()) != 0) ::_exit(99);
-      ::execl(VREK_PROGRAM, "vrek-batch", "road", "-q", "--formats", "1", "--hz",
-              Example("road/Axis 1.plt").c_str(), "--vt", Example("road/Axis 1.alz").c_str(), "--cross",
-              sSections.c_str(), "-o", "out.xml", nullptr);
-      ::_exit(98);
-    }
-    for (int n = 0; n < 6000 && Leftovers().empty(); ++n) {
-      std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-    EXPECT_EQ(Leftovers().size(), 1U) << "half a document beside its place";
-    ::kill(nChild, nSignal);
-    int nStatus = 0;
-    ASSERT_EQ(::waitpid(nChild, &nStatus, 0), nChild);
-    ASSERT_TRUE(WIFSIGNALED(nStatus)) << nStatus;
-    EXPECT_EQ(WTERMSIG(nStatus), nSignal);
-    EXPECT_EQ(Read(Directory / "out.xml"), "earlier");
-    EXPECT_TRUE(Leftovers().empty());
-  }
 }
 
 }  // namespace

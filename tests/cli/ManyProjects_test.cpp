@@ -1,5 +1,8 @@
-// Many projects at once, each in a process of its own.
+// Many projects, in sequence and at once, each in a process of its own.
+#include <chrono>
+#include <csignal>
 #include <nlohmann/json.hpp>
+#include <thread>
 
 #include "Program.h"
 
@@ -18,13 +21,37 @@ class ManyProjects : public test::ProgramTest {
     }
     return sOut;
   }
+  /// Waits for the process whose last argument this is; 0: it never came.
+  static pid_t ProcessOf(const std::string& sArgument) {
+    for (int n = 0; n < 10'000; ++n) {
+      for (const auto& Entry : fs::directory_iterator("/proc")) {
+        const auto sCommand = Read(Entry.path() / "cmdline");
+        if (sCommand.ends_with('\0' + sArgument + '\0')) return std::stoi(Entry.path().filename());
+      }
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return 0;
+  }
 };
 
 TEST_F(ManyProjects, RunInOrderInOneProcess) {
-  const auto Result = Run({"run", "--json", Project("rail", "a"), Project("faulty/gap-in-the-plan", "b"),
-                           Project("double", "c")});
-  EXPECT_EQ(Result.nStatus, 1) << "the worst of all";
-  EXPECT_EQ(Outcomes(Result.sOut), "rail+ rail- double+ ");
+  const auto Result = Run({"run", "--json", Project("rail", "a"), BadJobFile(),
+                           Project("faulty/gap-in-the-plan", "b"), Project("double", "c")});
+  EXPECT_EQ(Result.nStatus, 2) << "the worst of all";
+  EXPECT_EQ(Outcomes(Result.sOut), "rail+ - rail- double+ ");
+  std::string sSaid;
+  std::istringstream Lines(Result.sErr);
+  for (std::string sLine; std::getline(Lines, sLine);) {
+    const auto nAt = sLine.find(Directory.string());
+    if (nAt != sLine.npos) sSaid += sLine.erase(nAt, Directory.string().size()) + "\n";
+  }
+  EXPECT_EQ(sSaid,
+            "/a/job.toml: converted\n"
+            "written: /a/rail.xml\n"
+            "vrek-batch: /bad.toml: \"job\" must be one of \"road\", \"tunnel\", \"rail\" and \"double\"\n"
+            "/b/job.toml: refused\n"
+            "/c/job.toml: converted\n"
+            "written: /c/double.xml\n");
 }
 
 TEST_F(ManyProjects, ABadOneTakesNothingElseDown) {
@@ -50,21 +77,42 @@ TEST_F(ManyProjects, AProjectThatIsKilledIsToldApart) {
   const auto sLong = Project("road", "long");
   LongRoad("long/Axis 1.trv");
   const auto sGood = Project("rail", "good");
-  const auto Result = Run({"run", "--jobs", "2", "--json", sLong, sGood}, "ulimit -f 4000;");
+  std::thread Killer([&] {
+    const pid_t nProcess = ProcessOf(sLong);
+    ASSERT_NE(nProcess, 0);
+    ::kill(nProcess, SIGKILL);
+  });
+  const auto Result = Run({"run", "--jobs", "2", "--json", sLong, sGood});
+  Killer.join();
   EXPECT_EQ(Result.nStatus, 3);
   EXPECT_EQ(Outcomes(Result.sOut), "- rail+ ");
-  EXPECT_NE(Result.sErr.find("long/job.toml: killed by signal"), std::string::npos) << Result.sErr;
+  EXPECT_NE(Result.sErr.find("long/job.toml: killed by signal 9"), std::string::npos) << Result.sErr;
 }
 
-TEST_F(ManyProjects, TwoMayNotWriteOneFile) {
+// In sequence the last to write would win, at once nobody knows who.
+TEST_F(ManyProjects, NoneMayReplaceWhatIsAnothers) {
   const auto sOne = Project("rail", "a");
-  const auto sOther =
-      Write("a/other.toml",
-            "job = \"rail\"\noutput = \"../a/rail.xml\"\n[alignment]\nhorizontal = \"Track.plt\"\n");
-  const auto Result = Run({"run", "-j", "2", sOne, sOther});
-  EXPECT_EQ(Result.nStatus, 2);
-  EXPECT_NE(Result.sErr.find("both write"), std::string::npos);
-  EXPECT_EQ(Run({"check", "run", "-j", "2", "-q", sOne, sOther}).nStatus, 0) << "a check writes nothing";
+  const auto sPlan = (Directory / "a/Track.plt").string(), sBefore = Read(sPlan);
+  const struct {
+    const char *sOutput, *sSays;
+  } aRows[] = {
+      {"../a/rail.xml", "both write"}, {"Track.plt", "would overwrite"}, {"job.toml", "would overwrite"}};
+  for (const auto& Row : aRows) {
+    const auto sOther = Write("a/other.toml", "job = \"rail\"\noutput = \"" + std::string(Row.sOutput) +
+                                                  "\"\n[alignment]\nhorizontal = \"../b.plt\"\n");
+    for (const char* sAtOnce : {"", "--jobs=2"}) {
+      std::vector<std::string> aArguments{"run", "--json", sOne, sOther};
+      if (*sAtOnce != '\0') aArguments.emplace_back(sAtOnce);
+      fs::remove(Directory / "a/rail.xml");
+      const auto Result = Run(aArguments);
+      EXPECT_EQ(Result.nStatus, 2) << Row.sOutput << sAtOnce;
+      EXPECT_EQ(Outcomes(Result.sOut), "rail- rail- ");
+      EXPECT_NE(Result.sErr.find(Row.sSays), std::string::npos) << Result.sErr;
+      EXPECT_FALSE(fs::exists(Directory / "a/rail.xml"));
+    }
+  }
+  EXPECT_EQ(Read(sPlan), sBefore);
+  EXPECT_EQ(Run({"check", "run", "-q", sOne, sOne}).nStatus, 0) << "a check writes nothing";
 }
 
 TEST_F(ManyProjects, CheckWritesNothing) {
