@@ -64,6 +64,11 @@ TEST_F(Staged, KeepsPermissionsAndLinks) {
   EXPECT_TRUE(fs::is_symlink(Path("link.xml")));
   EXPECT_EQ(ReadFile(sPath), "after");
   EXPECT_EQ(fs::status(sPath).permissions(), static_cast<fs::perms>(0640));
+  fs::create_symlink("later.xml", Path("early.xml"));
+  WriteWhole(Path("early.xml"), "through a link to nothing yet");
+  Output.Commit();
+  EXPECT_TRUE(fs::is_symlink(Path("early.xml")));
+  EXPECT_EQ(ReadFile(Path("later.xml")), "through a link to nothing yet");
 }
 
 TEST_F(Staged, DoesNotCommitADocumentThatIsNotWhole) {
