@@ -3,6 +3,7 @@
 // to do.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -79,8 +80,8 @@ TTexts OfCants(std::string_view sName, const std::vector<TCantStation>& aStation
 /// A file with the ending ".rtf" that is no RTF, or was cut off. sFile: its name with the ending.
 TTexts OfRtf(std::string_view sFile, std::string_view sBytes);
 
-/// A text file that holds CR and also LF alone, which ends no line then.
-TTexts OfLineEnds(std::string_view sFile, std::string_view sBytes);
+/// A text file in which so many LF end no line.
+TTexts OfLineEnds(std::string_view sFile, std::size_t nStrayLfs);
 
 /// Tunnel profiles that make the document no well-formed XML.
 TTexts OfTunnel(std::string_view sFile, const clsTunnel& Tunnel);

@@ -10,14 +10,6 @@
 namespace vrek::Warnings {
 namespace {
 
-std::size_t LoneLfs(std::string_view sBytes) {
-  std::size_t nCount = 0;
-  for (auto n = sBytes.find('\n'); n != sBytes.npos; n = sBytes.find('\n', n + 1)) {
-    if (n == 0 || sBytes[n - 1] != '\r') ++nCount;
-  }
-  return nCount;
-}
-
 double LargestCant(const std::vector<TCantStation>& aStations) {
   double dLargest = 0;
   for (const auto& Row : aStations) {
@@ -44,15 +36,13 @@ TTexts OfRtf(std::string_view sFile, std::string_view sBytes) {
                  {sFile})};
 }
 
-TTexts OfLineEnds(std::string_view sFile, std::string_view sBytes) {
-  if (sBytes.find('\r') == sBytes.npos) return {};
-  const auto nCount = LoneLfs(sBytes);
-  if (nCount == 0) return {};
+TTexts OfLineEnds(std::string_view sFile, std::size_t nStrayLfs) {
+  if (nStrayLfs == 0) return {};
   return {
       Phrase("WARN_LINE_ENDS",
              "The file \"%1\" mixes line ends: LF alone (%2 times) ends no line in it, so rows may be lost. "
              "Save it with CR LF throughout.",
-             {sFile, std::to_string(nCount)})};
+             {sFile, std::to_string(nStrayLfs)})};
 }
 
 TTexts OfTunnel(std::string_view sFile, const clsTunnel& Tunnel) {

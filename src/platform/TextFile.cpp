@@ -28,17 +28,43 @@ bool IsPath(const std::string& sPath) {
 // Beyond any listing; a file of this size would take the machine's memory with it.
 constexpr std::size_t nMostBytes = std::size_t{1} << 31;
 
+int Open(const std::string& sPath) {
+  if (!IsPath(sPath)) Raise(Error::nPathFileAccess);
+  const int nFile = ::open(sPath.c_str(), O_RDONLY | O_CLOEXEC);
+  if (nFile < 0) RaiseOpenFailure(sPath, errno);
+  return nFile;
+}
+
+// A device may have no end.
+void RefuseDevice(int nFile) {
+  struct stat Status {};
+  if (::fstat(nFile, &Status) == 0 && S_ISCHR(Status.st_mode)) Raise(Error::nPathFileAccess);
+}
+
+// Where the system knows it, else 0.
+std::size_t SizeOf(int nFile) {
+  struct stat Status {};
+  const bool bKnown = ::fstat(nFile, &Status) == 0 && S_ISREG(Status.st_mode) && Status.st_size > 0;
+  return bKnown ? static_cast<std::size_t>(Status.st_size) : 0;
+}
+
+std::size_t ReadPart(int nFile, char* pTo, std::size_t nMost) {
+  for (;;) {
+    const auto n = ::read(nFile, pTo, nMost);
+    if (n >= 0) return static_cast<std::size_t>(n);
+    if (errno != EINTR) Raise(FailureNumber(errno));
+  }
+}
+
 // Reads until the system says that there is no more: a size that changes or isn't known does no harm.
 std::string ReadToEnd(int nFile, std::size_t nExpected) {
   if (nExpected > nMostBytes) Raise(Error::nOutOfMemory);
   std::string sBytes(nExpected + 1, '\0');
   std::size_t nRead = 0;
   for (;;) {
-    const auto n = ::read(nFile, sBytes.data() + nRead, sBytes.size() - nRead);
+    const auto n = ReadPart(nFile, sBytes.data() + nRead, sBytes.size() - nRead);
     if (n == 0) break;
-    if (n < 0 && errno == EINTR) continue;
-    if (n < 0) Raise(FailureNumber(errno));
-    nRead += static_cast<std::size_t>(n);
+    nRead += n;
     if (nRead > nMostBytes) Raise(Error::nOutOfMemory);
     if (nRead == sBytes.size()) sBytes.resize(2 * nRead + 65536);
   }
@@ -49,14 +75,29 @@ std::string ReadToEnd(int nFile, std::size_t nExpected) {
 }  // namespace
 
 std::string ReadWholeFile(const std::string& sPath) {
-  if (!IsPath(sPath)) Raise(Error::nPathFileAccess);
-  const Descriptor File(::open(sPath.c_str(), O_RDONLY | O_CLOEXEC));
-  if (File.Get() < 0) RaiseOpenFailure(sPath, errno);
-  struct stat Status {};
-  const bool bKnown = ::fstat(File.Get(), &Status) == 0;
-  if (bKnown && S_ISCHR(Status.st_mode)) Raise(Error::nPathFileAccess);  // devices may have no end
-  const bool bSized = bKnown && S_ISREG(Status.st_mode) && Status.st_size > 0;
-  return ReadToEnd(File.Get(), bSized ? static_cast<std::size_t>(Status.st_size) : 0);
+  const Descriptor File(Open(sPath));
+  RefuseDevice(File.Get());
+  return ReadToEnd(File.Get(), SizeOf(File.Get()));
+}
+
+std::size_t CountStrayLfs(const std::string& sPath) {
+  const Descriptor File(Open(sPath));
+  RefuseDevice(File.Get());
+  std::string sPart(262'144, '\0');
+  std::size_t nStray = 0;
+  bool bCr = false;
+  for (char cBefore = '\0';;) {
+    const auto nRead = ReadPart(File.Get(), sPart.data(), sPart.size());
+    if (nRead == 0) return bCr ? nStray : 0;
+    const auto sBytes = std::string_view(sPart).substr(0, nRead);
+    bCr = bCr || sBytes.find('\r') != sBytes.npos;
+    nStray += sBytes.front() == '\n' && cBefore != '\r' ? 1 : 0;
+    // Without branches, so that many bytes are looked at at once.
+    for (std::size_t n = 1; n < sBytes.size(); ++n) {
+      nStray += static_cast<std::size_t>((sBytes[n] == '\n') & (sBytes[n - 1] != '\r'));
+    }
+    cBefore = sBytes.back();
+  }
 }
 
 bool CanOpenForReading(const std::string& sPath) {

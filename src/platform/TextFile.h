@@ -37,6 +37,10 @@ class CTextFile {
 /// All bytes of a file. Failures as CTextFile.
 std::string ReadWholeFile(const std::string& sPath);
 
+/// How many LF of a file that holds CR have none in front: they end no line. 0 where it holds no CR. Failures
+/// as CTextFile.
+std::size_t CountStrayLfs(const std::string& sPath);
+
 /// True when the path names a file that can be opened for reading (no folder, no empty name).
 bool CanOpenForReading(const std::string& sPath);
 

@@ -129,10 +129,9 @@ class CCollector {
       const auto sPath = Files.GetFile(nPage, nFile);
       if (std::error_code Ignored; std::filesystem::is_fifo(sPath, Ignored)) continue;
       Add([&] {
-        const auto sBytes = ReadWholeFile(sPath);
         const auto sFile = ST::GetFileName(sPath);
-        return IsRtfFile(sPath) && !bTunnel ? Warnings::OfRtf(sFile, sBytes)
-                                            : Warnings::OfLineEnds(sFile, sBytes);
+        return IsRtfFile(sPath) && !bTunnel ? Warnings::OfRtf(sFile, ReadWholeFile(sPath))
+                                            : Warnings::OfLineEnds(sFile, CountStrayLfs(sPath));
       });
     }
   }

@@ -131,10 +131,8 @@ TEST(Warnings, TellAnRtfFileThatIsNoneOrNotWhole) {
 }
 
 TEST(Warnings, TellLineEndsThatEndNothing) {
-  for (const char* sBytes : {"", "a\r\nb\r\n", "a\rb\r", "a\nb\n"}) {
-    EXPECT_THAT(Warnings::OfLineEnds("a.trv", sBytes), IsEmpty()) << "one kind of line end";
-  }
-  EXPECT_THAT(Warnings::OfLineEnds("a.trv", "\na\r\nb\n\nc\n\r"),
+  EXPECT_THAT(Warnings::OfLineEnds("a.trv", 0), IsEmpty());
+  EXPECT_THAT(Warnings::OfLineEnds("a.trv", 4),
               ElementsAre(AllOf(HasSubstr("\"a.trv\""), HasSubstr("(4 times)"))));
 }
 

@@ -51,6 +51,21 @@ TEST_F(TextFile, KeepsEveryByteAndReadsWhatHasNoSize) {
   EXPECT_NE(ReadWholeFile("/proc/self/status").find("Pid:"), std::string::npos);
 }
 
+TEST_F(TextFile, CountsTheLfsThatEndNoLine) {
+  const std::string sLong(262'143, 'x');  // puts what follows on the edge of what is read at once
+  const std::pair<std::string, std::size_t> aCases[] = {{"", 0},
+                                                        {"a\r\nb\r\n", 0},
+                                                        {"a\rb\r", 0},
+                                                        {"a\nb\n", 0},
+                                                        {"\na\r\nb\n\nc\n\r", 4},
+                                                        {sLong + "\r\n", 0},
+                                                        {sLong + "\n\r", 1},
+                                                        {sLong + "x\n" + "\r", 1}};
+  for (const auto& [sBytes, nStray] : aCases) {
+    EXPECT_EQ(CountStrayLfs(WriteFile("ends.txt", sBytes)), nStray) << sBytes.substr(sBytes.size() / 2);
+  }
+}
+
 TEST_F(TextFile, SaysWhyAFileCannotBeRead) {
   WriteFile("plain", "x");
   ::chmod(WriteFile("locked", "x").c_str(), 0);
