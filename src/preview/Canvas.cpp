@@ -77,6 +77,8 @@ bool CCanvas::Label(const TLabel& Label) {
   const double dLeft = Label.At.dX - (Label.eAnchor == EAnchor::eStart    ? 0
                                       : Label.eAnchor == EAnchor::eMiddle ? dWidth / 2
                                                                           : dWidth);
+  const bool bCut = Label.eAnchor == EAnchor::eMiddle && (dLeft < 0 || dLeft + dWidth > m_View.dWidth);
+  if (bCut) return false;
   const TBox Box{dLeft - 2, Label.At.dY - Drawing::dTextHeight, dLeft + dWidth + 2, Label.At.dY + 3};
   const bool bTaken = std::any_of(m_aTaken.begin(), m_aTaken.end(), [&](const TBox& Other) {
     return Box.dLeft < Other.dRight && Other.dLeft < Box.dRight && Box.dTop < Other.dBottom &&
@@ -88,16 +90,23 @@ bool CCanvas::Label(const TLabel& Label) {
   return true;
 }
 
-void CCanvas::Legend(const TStroke& Style, const std::string& sText) {
-  constexpr double dSample = 24, dGap = 6, dMargin = 8;
-  const double dWidth = dSample + dGap + TextWidth(sText) + 2 * dGap;
+// The next entry of the legend, with room before its text; gives where the entry begins.
+TPlotPoint CCanvas::LegendText(const std::string& sText, double dBefore) {
+  constexpr double dGap = 6, dMargin = 8;
+  const double dWidth = dBefore + TextWidth(sText) + 2 * dGap;
   if (m_NextLegend.dX > dMargin && m_NextLegend.dX + dWidth > m_View.dWidth) {
     m_NextLegend = {dMargin, m_NextLegend.dY + Drawing::dTextHeight + dGap};
   }
-  const double dX = m_NextLegend.dX, dY = m_NextLegend.dY;
-  Line({{dX, dY - 4}, {dX + dSample, dY - 4}}, Style);
-  Label({{dX + dSample + dGap, dY}, sText, EAnchor::eStart, EInk::eText});
+  const auto At = m_NextLegend;
+  Label({{At.dX + dBefore, At.dY}, sText, EAnchor::eStart, EInk::eText});
   m_NextLegend.dX += dWidth;
+  return At;
+}
+
+void CCanvas::Legend(const TStroke& Style, const std::string& sText) {
+  constexpr double dSample = 24, dGap = 6;
+  const auto At = LegendText(sText, dSample + dGap);
+  Line({{At.dX, At.dY - 4}, {At.dX + dSample, At.dY - 4}}, Style);
 }
 
 bool CCanvas::IsInside(const TPlotPoint& Point) const {

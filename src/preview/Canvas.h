@@ -25,6 +25,10 @@ class CCanvas {
   bool IsInside(const TPlotPoint& Point) const;
   /// A sample of a stroke and what it stands for, in rows from the upper left on.
   void Legend(const TStroke& Style, const std::string& sText);
+  /// A text without a sample among them.
+  void Caption(const std::string& sText) { LegendText(sText, 0); }
+  /// The lower edge of these rows.
+  double LegendBottom() const { return m_NextLegend.dY + 4; }
 
   TDrawing Take() { return std::move(m_Drawing); }
 
@@ -33,6 +37,7 @@ class CCanvas {
     double dLeft, dTop, dRight, dBottom;
   };
   void Flush(TStroke& Open);
+  TPlotPoint LegendText(const std::string& sText, double dBefore);
 
   TViewport m_View;
   TDrawing m_Drawing;

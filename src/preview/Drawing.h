@@ -46,11 +46,13 @@ struct TPlotWords {
   std::string sStraight = "straight", sArc = "arc", sSpiral = "spiral";
   std::string sChainage = "chainage", sLength = "length", sRadius = "radius", sParameter = "parameter";
   std::string sLeft = "left", sRight = "right", sRail = "rails", sNothing = "Nothing to show";
+  std::string sHeights = "heights enlarged";
 };
 
 namespace Drawing {
 
-/// Height of the labels in device units that the drawings are laid out for.
+/// Font size of the labels in device units. All else is laid out for it: who wants another size enlarges the
+/// whole drawing. In an SVG document, and at scale 1, a device unit is a pixel.
 inline constexpr double dTextHeight = 11;
 
 TExtent ExtentOfPlan(const TPreview& Shown);
@@ -60,7 +62,8 @@ TExtent ExtentOfSection(const TPreviewSection& Section);
 /// The plan: straights thin, arcs thick, spirals dashed; chainage marks as close as the scale allows.
 TDrawing DrawPlan(const TPreview& Shown, const TViewport& View, const Preview::TElementIndex& Selected,
                   const TPlotWords& Words);
-/// The profile over a grid of chainages and heights: grades thin, curves thick.
+/// The profile over a grid of chainages and heights: grades thin, curves thick. Says how much longer a metre
+/// is upwards than across.
 TDrawing DrawProfile(const TPreview& Shown, const TViewport& View, const TPlotWords& Words);
 TDrawing DrawSection(const TPreviewSection& Section, const TViewport& View, const TPlotWords& Words);
 

@@ -33,7 +33,8 @@ TViewport Fit(const TExtent& Extent, double dWidth, double dHeight, double dMarg
   TViewport View{dWidth, dHeight, (Extent.dLeft + Extent.dRight) / 2, (Extent.dBottom + Extent.dTop) / 2,
                  1,      1};
   const auto Scale = [&](double dDevice, double dMetres) {
-    return std::clamp(std::max(dDevice - 2 * dMargin, 1.0) / dMetres, dLeastScale, dMostScale);
+    const double dInside = std::max(dDevice - 2 * std::min(dMargin, dDevice / 5), 1.0);
+    return std::clamp(dInside / dMetres, dLeastScale, dMostScale);
   };
   View.dScaleX = Scale(dWidth, Span(Extent.dLeft, Extent.dRight));
   View.dScaleY = Scale(dHeight, Span(Extent.dBottom, Extent.dTop));

@@ -29,7 +29,8 @@ struct TViewport {
 
 namespace Viewport {
 
-/// The whole extent with a margin of device units. bSameScale: a metre is as long upwards as across.
+/// The whole extent with a margin of device units, at most a fifth of the device on each side. bSameScale: a
+/// metre is as long upwards as across.
 TViewport Fit(const TExtent& Extent, double dWidth, double dHeight, double dMargin, bool bSameScale);
 
 /// Moves what is shown by device units: positive to the right and downwards.

@@ -35,11 +35,11 @@ TEST_F(Picture, MovesAndZoomsAndFits) {
   QTest::keyClick(pView, Qt::Key_Plus);
   EXPECT_GT(pView->View().dScaleX, Whole.dScaleX);
   const QPointF At(20, 30);
-  const auto Before = pView->View().ToMetres(At.x(), At.y());
+  const auto Before = pView->ToMetres(At);
   QWheelEvent Wheel(At, pView->mapToGlobal(At), {}, {0, 240}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
                     false);
   QApplication::sendEvent(pView, &Wheel);
-  const auto After = pView->View().ToMetres(At.x(), At.y());
+  const auto After = pView->ToMetres(At);
   EXPECT_NEAR(After.dX, Before.dX, 1e-6);
   EXPECT_NEAR(After.dY, Before.dY, 1e-6);
   Run->Click("cmdFit");
@@ -48,12 +48,27 @@ TEST_F(Picture, MovesAndZoomsAndFits) {
 }
 
 TEST_F(Picture, TellsOfTheElementThatIsClicked) {
-  const auto At = pView->View().ToDevice(0, 0);  // the local origin is the start of the plan
-  QTest::mouseClick(pView, Qt::LeftButton, Qt::NoModifier, QPoint(qRound(At.dX), qRound(At.dY)));
+  const auto At = pView->ToPixels({0, 0});  // the local origin is the start of the plan
+  QTest::mouseClick(pView, Qt::LeftButton, Qt::NoModifier, At.toPoint());
   const auto sText = Run->Find<QLabel>("lblElement")->text();
   EXPECT_TRUE(sText.startsWith("Vía única: straight, chainage ")) << sText.toStdString();
   QTest::mouseClick(pView, Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
   EXPECT_EQ(Run->Find<QLabel>("lblElement")->text(), "");
+}
+
+TEST_F(Picture, GrowsWithTheFont) {
+  auto Font = pView->font();
+  Font.setPixelSize(44);  // four times the size that drawings are laid out for
+  pView->setFont(Font);
+  pView->Fit();
+  EXPECT_DOUBLE_EQ(pView->Drawing().dWidth, pView->width() / 4.0);
+}
+
+TEST_F(Picture, KeepsItsTabsWholeInTheSmallestWindow) {
+  Run->Window->resize(1, 1);
+  QApplication::processEvents();
+  const auto* pTabs = Run->Find<QTabBar>("tabPicture");
+  EXPECT_GE(pTabs->width(), pTabs->sizeHint().width());
 }
 
 TEST_F(Picture, LeafsThroughTheSections) {
@@ -69,7 +84,8 @@ TEST_F(Picture, LeafsThroughTheSections) {
 TEST_F(Picture, IsSavedAsPngAndSvg) {
   Platform.sSaveAnswer = (Directory / "plan.png").string();
   Run->Click("cmdSavePicture");
-  EXPECT_EQ(QImage(QString::fromStdString(Platform.sSaveAnswer)).width(), 2 * pView->width());
+  EXPECT_EQ(QImage(QString::fromStdString(Platform.sSaveAnswer)).width(),
+            2 * static_cast<int>(pView->Drawing().dWidth));
   Platform.sSaveAnswer = (Directory / "plan.SVG").string();
   Run->Click("cmdSavePicture");
   EXPECT_NE(ReadFile(Platform.sSaveAnswer).find("<polyline"), std::string::npos);

@@ -71,12 +71,12 @@ void Screenshots::Take(const TJobPictures& Job) {
   Run.Window->resize(Run.Window->width() * 5 / 3, Run.Window->height() * 5 / 3);
   QApplication::processEvents();
   auto* pPicture = Run.Find<qt::DrawingView>("picResult");
-  const auto At = pPicture->View().ToDevice(0, 0);
-  QTest::mouseClick(pPicture, Qt::LeftButton, Qt::NoModifier, QPoint(qRound(At.dX), qRound(At.dY)));
+  const auto At = pPicture->ToPixels({0, 0});
+  QTest::mouseClick(pPicture, Qt::LeftButton, Qt::NoModifier, At.toPoint());
   Shoot("plan");
   for (int n = 0; n < 22; ++n) {
-    QWheelEvent Wheel(QPointF(At.dX, At.dY), pPicture->mapToGlobal(QPointF(At.dX, At.dY)), {}, {0, 120},
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent Wheel(At, pPicture->mapToGlobal(At), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
     QApplication::sendEvent(pPicture, &Wheel);
   }
   Shoot("plan_near");
@@ -95,11 +95,9 @@ void Screenshots::Report() {
   WizardRun Run(Platform, Model, nAllJobs);
   Run.Click("optDesign2");
   Run.Click("cmdNext");
-  const auto sCase = QString(VREK_GOLDEN_CASES) + "/via_unica_8km/";
-  WizardRun::Drop(Run.Window.get(), {sCase + "Vía única.plt", sCase + "Rasante vía única.alz"});
-  Run.Click("cmdNext");
-  Run.Wizard.ctlPreferences.SetToleranceHz(0.0);
-  Run.Click("cmdNext");
+  const auto sFaulty = QString(VREK_EXAMPLES) + "/faulty/gap-in-the-plan/";
+  WizardRun::Drop(Run.Window.get(), {sFaulty + "axis.plt", sFaulty + "axis.alz"});
+  Run.Next(2);
   Run.Shoot(sFolder + "/report_1_importing.png");
   const auto* pTree = Run.Find<QTreeWidget>("trFiles");
   QTest::mouseClick(pTree->viewport(), Qt::LeftButton, Qt::NoModifier,
@@ -151,7 +149,7 @@ int main(int argc, char** argv) {
   const QApplication Application(argc, argv);
   if (qEnvironmentVariableIsSet("DARK")) vrek::test::UseDarkTheme();
   if (Application.arguments().size() < 2) qFatal("usage: vrek_screenshots FOLDER");
-  vrek::test::sFolder = Application.arguments().at(1);
+  vrek::test::sFolder = QDir(Application.arguments().at(1)).absolutePath();
   QDir().mkpath(vrek::test::sFolder);
   return RUN_ALL_TESTS();
 }

@@ -1,6 +1,7 @@
 #include "wizard/qt/DrawingView.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -53,7 +54,20 @@ QSize DrawingView::sizeHint() const {
 }
 
 QSize DrawingView::minimumSizeHint() const {
-  return {fontMetrics().averageCharWidth() * 20, fontMetrics().height() * 4};
+  return {fontMetrics().averageCharWidth() * 20, fontMetrics().height() * 6};
+}
+
+double DrawingView::PixelsToUnit() const {
+  return QFontInfo(font()).pixelSize() / Drawing::dTextHeight;
+}
+
+TPlotPoint DrawingView::ToMetres(const QPointF& At) const {
+  return m_View.ToMetres(At.x() / PixelsToUnit(), At.y() / PixelsToUnit());
+}
+
+QPointF DrawingView::ToPixels(const TPlotPoint& Place) const {
+  const auto At = m_View.ToDevice(Place.dX, Place.dY);
+  return QPointF(At.dX, At.dY) * PixelsToUnit();
 }
 
 void DrawingView::SetContent(TDrawingContent Content, bool bKeepPlace) {
@@ -64,7 +78,8 @@ void DrawingView::SetContent(TDrawingContent Content, bool bKeepPlace) {
 
 void DrawingView::Fit() {
   m_bWhole = true;
-  m_View = Viewport::Fit(m_Content.Extent, width(), height(), dMargin, m_Content.bSameScale);
+  m_View = Viewport::Fit(m_Content.Extent, width() / PixelsToUnit(), height() / PixelsToUnit(), dMargin,
+                         m_Content.bSameScale);
   update();
 }
 
@@ -83,27 +98,29 @@ void DrawingView::Paint(QPainter& Painter, const TDrawing& Drawing, bool bDark) 
 
 void DrawingView::paintEvent(QPaintEvent*) {
   QPainter Painter(this);
+  Painter.scale(PixelsToUnit(), PixelsToUnit());
   Paint(Painter, Drawing(), palette().color(QPalette::Base).lightness() < 128);
   if (!hasFocus()) return;
+  Painter.resetTransform();
   Painter.setPen(palette().color(QPalette::Highlight));
   Painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void DrawingView::resizeEvent(QResizeEvent*) {
-  m_View.dWidth = width();
-  m_View.dHeight = height();
+  m_View.dWidth = width() / PixelsToUnit();
+  m_View.dHeight = height() / PixelsToUnit();
   if (m_bWhole) Fit();
 }
 
 void DrawingView::Pan(double dRight, double dDown) {
   m_bWhole = false;
-  Viewport::Pan(m_View, dRight, dDown);
+  Viewport::Pan(m_View, dRight / PixelsToUnit(), dDown / PixelsToUnit());
   update();
 }
 
 void DrawingView::Zoom(double dFactor, const QPointF& Around) {
   m_bWhole = false;
-  Viewport::Zoom(m_View, dFactor, Around.x(), Around.y());
+  Viewport::Zoom(m_View, dFactor, Around.x() / PixelsToUnit(), Around.y() / PixelsToUnit());
   update();
 }
 

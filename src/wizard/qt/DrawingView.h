@@ -1,4 +1,5 @@
 // Shows a drawing: pan by dragging or the arrow keys, zoom by the wheel or + and -, the whole by 0 or Home.
+// It is enlarged until its labels are as high as the widget's font: then a device unit is more than a pixel.
 #pragma once
 
 #include <QPointF>
@@ -29,6 +30,10 @@ class DrawingView final : public QWidget {
   const TViewport& View() const { return m_View; }
   TDrawing Drawing() const;
 
+  /// From pixels of the widget to metres, and back.
+  TPlotPoint ToMetres(const QPointF& At) const;
+  QPointF ToPixels(const TPlotPoint& Place) const;
+
   /// Paints a drawing in the colours for a light or a dark background.
   static void Paint(QPainter& Painter, const TDrawing& Drawing, bool bDark);
 
@@ -36,7 +41,7 @@ class DrawingView final : public QWidget {
   QSize minimumSizeHint() const override;
 
  signals:
-  /// A click that was no drag, in device units.
+  /// A click that was no drag, in pixels.
   void Clicked(const QPointF& At);
 
  protected:
@@ -49,6 +54,7 @@ class DrawingView final : public QWidget {
   void keyPressEvent(QKeyEvent* pEvent) override;
 
  private:
+  double PixelsToUnit() const;
   void Pan(double dRight, double dDown);
   void Zoom(double dFactor, const QPointF& Around);
 

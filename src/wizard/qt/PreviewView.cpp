@@ -15,8 +15,8 @@
 namespace vrek::qt {
 namespace {
 
-constexpr double dClickDistance = 8;  // pixels
-constexpr int nImageScale = 2;        // pixels of a saved picture to one on the screen
+constexpr double dClickDistance = 8;  // device units
+constexpr int nImageScale = 2;        // pixels of a saved picture to a device unit
 
 TPlotWords PlotWords() {
   const auto W = [](const char* sToken, const std::string& sEnglish) {
@@ -28,7 +28,7 @@ TPlotWords PlotWords() {
           W("WIN_LENGTH", English.sLength),       W("WIN_RADIUS", English.sRadius),
           W("WIN_PARAMETER", English.sParameter), W("WIN_LEFT", English.sLeft),
           W("WIN_RIGHT", English.sRight),         W("WIN_RAILS", English.sRail),
-          W("WIN_NOTHING", English.sNothing)};
+          W("WIN_NOTHING", English.sNothing),     W("WIN_HEIGHTS", English.sHeights)};
 }
 
 std::string AsPng(const TDrawing& Drawing) {
@@ -74,6 +74,8 @@ void PreviewView::SetTexts() {
   m_pTabs->addTab(Word("WIN_SECTION", "Section"));
   m_pTabs->setAccessibleName(Word("WIN_PICTURE", "Drawing of what was written"));
   m_pTabs->setDrawBase(false);
+  m_pTabs->setElideMode(Qt::ElideNone);
+  m_pTabs->setUsesScrollButtons(false);
   SetCaption(*m_pFit, Word("WIN_FIT", "Fit"));
   SetCaption(*m_pSave, Word("WIN_SAVE_PICTURE", "Save picture..."));
   m_pPicture->setAccessibleName(Word("WIN_PICTURE", "Drawing of what was written"));
@@ -171,9 +173,8 @@ void PreviewView::ShowPicture(bool bKeepPlace) {
 
 void PreviewView::Select(const QPointF& At) {
   if (m_pTabs->currentIndex() != ePlan) return;
-  const auto& View = m_pPicture->View();
-  const auto Place = View.ToMetres(At.x(), At.y());
-  m_Selected = Preview::FindElement(m_Shown, Place.dX, Place.dY, dClickDistance / View.dScaleX);
+  const auto Place = m_pPicture->ToMetres(At);
+  m_Selected = Preview::FindElement(m_Shown, Place.dX, Place.dY, dClickDistance / m_pPicture->View().dScaleX);
   QString sText;
   if (m_Selected.IsGiven()) {
     const auto& Aligment = m_Shown.aAligments[static_cast<std::size_t>(m_Selected.nAligment)];

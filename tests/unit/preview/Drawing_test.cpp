@@ -1,6 +1,8 @@
 // Strokes and labels of a drawing, and the SVG document made of them.
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "preview/Canvas.h"
 #include "preview/SvgPlot.h"
 
@@ -77,6 +79,28 @@ TEST(Drawing, PutsNoLabelOnAnother) {
   EXPECT_TRUE(Canvas.Label({{10, 50}, "0+100", EAnchor::eStart, EInk::eText}));
   EXPECT_FALSE(Canvas.Label({{20, 52}, "0+100", EAnchor::eStart, EInk::eText}));
   EXPECT_TRUE(Canvas.Label({{10, 80}, "0+100", EAnchor::eStart, EInk::eText}));
+}
+
+// Two profiles from chainage 0 on, in a view where grid lines would otherwise meet the legend and the edges.
+TEST(Drawing, KeepsTheGridOfAProfileOffItsLegend) {
+  TPreview Shown;
+  for (const char* sName : {"Left track", "Right track"}) {
+    Shown.aAligments.push_back({1, sName, {}, {{false, {{0, 293.6}, {6220, 319.4}}}}, {}});
+  }
+  const auto View = Viewport::Fit(Drawing::ExtentOfProfile(Shown), 960, 520, 40, false);
+  const auto Drawn = Drawing::DrawProfile(Shown, View, {});
+  std::set<std::string> aTexts;
+  double dLegend = 0;
+  for (const auto& Label : Drawn.aLabels) {
+    aTexts.insert(Label.sText);
+    if (Label.sText == "Right track") dLegend = Label.At.dY;
+  }
+  for (const char* sText : {"0+000", "6+000", "295 m", "315 m", "heights enlarged × 121"}) {
+    EXPECT_TRUE(aTexts.count(sText)) << sText;
+  }
+  for (const auto& Stroke : Drawn.aStrokes) {
+    EXPECT_TRUE(Stroke.eInk != EInk::eGrid || Stroke.aPoints.front().dY > dLegend);
+  }
 }
 
 TEST(Drawing, SaysWhereThereIsNothing) {

@@ -25,6 +25,10 @@ TEST(Viewport, FitsTheWholeInsideItsMargin) {
   EXPECT_DOUBLE_EQ(Stretched.ToDevice(100, 60).dY, 10);
 }
 
+TEST(Viewport, NarrowsTheMarginOfASmallView) {
+  EXPECT_DOUBLE_EQ(Viewport::Fit(Extent(0, 0, 10, 10), 300, 60, 40, true).dScaleY, 3.6);
+}
+
 TEST(Viewport, ShowsASinglePointAndNothing) {
   EXPECT_DOUBLE_EQ(Viewport::Fit(Extent(5, 5, 5, 5), 100, 100, 10, true).dScaleX, 80) << "as wide as a metre";
   EXPECT_GT(Viewport::Fit({}, 0, 0, 10, true).dScaleX, 0);
