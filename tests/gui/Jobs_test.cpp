@@ -71,9 +71,9 @@ TEST_F(Jobs, WriteADoubleTrackByMouseAndKeys) {
   EXPECT_EQ(ReadFile(Model.XmlFileToExport), ReadFile((sDoubleTrack + "expected.xml").toStdString()));
   EXPECT_TRUE(Platform.aBoxes.empty());
 
-  // The picture holds the three alignments; the second page of the summary is the left track's.
+  // The picture holds the three alignments. Enter presses the arrow that has the focus: to the left track.
   EXPECT_FALSE(Run.Find<qt::DrawingView>("picResult")->Drawing().aStrokes.empty());
-  Run.Click("cmdPage0");
+  Run.Key(Qt::Key_Return);
   EXPECT_EQ(Run.Find<QLabel>("lblPage")->text(), "2 / 3");
   EXPECT_FALSE(Run.Find("cmdCancel")->isEnabled());
   Run.Next();
@@ -111,22 +111,21 @@ TEST_F(Jobs, ComeBackFromTheResultAsTheyWere) {
   EXPECT_EQ(Run.Find<QLabel>("lblTitle")->text(), "Importing");
 }
 
-// A name that breaks the document's form is told where the result is looked at, and only there.
+// A name that breaks the document's form is told where the result is looked at. Without one the box is
+// hidden.
 TEST_F(Jobs, TellOfANameThatBreaksTheDocument) {
+  const auto sPlan = QString::fromStdString(WriteFile("axis.plt", ReadFile(sTrackPlan.toStdString())));
   for (const char* sName : {"Plain", "Cut & cover"}) {
     Model.ConversionInfo.sJobName = sName;
     WizardRun Run(Platform, Model, nAllJobs);
     Run.OpenFiles(2);
-    Run.Type("txtFileName0", sTrackPlan);
+    Run.Type("txtFileName0", sPlan);
     Run.Next(4);
     ASSERT_EQ(Run.Wizard.CurrentPage(), ePageResult);
-    QStringList aTold;
-    if (Run.IsOnShow("lstWarnings")) {
-      auto* pList = Run.Find<QListWidget>("lstWarnings");
-      for (int n = 0; n < pList->count(); ++n) aTold << pList->item(n)->text();
-    }
-    EXPECT_EQ(aTold.filter("Cut & cover").isEmpty(), std::string(sName) == "Plain")
-        << aTold.join("; ").toStdString();
+    const bool bTold = std::string(sName) != "Plain";
+    ASSERT_EQ(Run.IsOnShow("lstWarnings"), bTold);
+    if (!bTold) continue;
+    EXPECT_TRUE(Run.Find<QListWidget>("lstWarnings")->item(0)->text().contains(sName));
   }
 }
 

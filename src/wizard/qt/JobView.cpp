@@ -10,8 +10,7 @@ JobView::JobView(ctlJobType& Control, QWidget* pParent)
     : PageView(pParent),
       m_Control(Control),
       m_pTypeFrame(new QGroupBox(this)),
-      m_pInfoFrame(new QGroupBox(this)),
-      m_pInfo(new QTextEdit(m_pInfoFrame)) {
+      m_pInfoFrame(new QGroupBox(this)) {
   auto* pOptions = new QVBoxLayout(m_pTypeFrame);
   for (int n = 0; n < 4; ++n) {
     auto* pOption = new QRadioButton(m_pTypeFrame);
@@ -24,6 +23,7 @@ JobView::JobView(ctlJobType& Control, QWidget* pParent)
       emit Used();
     });
   }
+  m_pInfo = new QTextEdit(m_pInfoFrame);  // behind the options, for the Tab key
   m_pInfo->setReadOnly(true);
   m_pInfo->setTabChangesFocus(true);
   (new QVBoxLayout(m_pInfoFrame))->addWidget(m_pInfo);

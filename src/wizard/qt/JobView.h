@@ -22,7 +22,7 @@ class JobView final : public PageView {
   QGroupBox* m_pTypeFrame;
   QGroupBox* m_pInfoFrame;
   std::array<QRadioButton*, 4> m_aOptions{};
-  QTextEdit* m_pInfo;
+  QTextEdit* m_pInfo = nullptr;
 };
 
 }  // namespace vrek::qt

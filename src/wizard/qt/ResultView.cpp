@@ -12,10 +12,10 @@ ResultView::ResultView(ctlResult& Control, std::function<TPreview()> MakePreview
     : PageView(pParent),
       m_Control(Control),
       m_MakePreview(std::move(MakePreview)),
-      m_pFrame(new QGroupBox(this)),
-      m_pWarnings(new QListWidget(this)) {
+      m_pFrame(new QGroupBox(this)) {
   auto* pLayout = new QVBoxLayout(this);
   pLayout->addWidget(MakeRows());
+  m_pWarnings = new QListWidget(this);
   m_pWarnings->setObjectName("lstWarnings");
   m_pWarnings->setAccessibleName(Word("WIN_WARNINGS", "Warnings"));
   m_pWarnings->setWordWrap(true);
@@ -68,8 +68,9 @@ void ResultView::Render() {
     m_pWarnings->addItem(Text(Item.Text));
     m_pWarnings->item(m_pWarnings->count() - 1)->setToolTip(Text(Item.Text));
   }
-  m_pWarnings->setVisible(m_pWarnings->count() > 0);
-  m_pWarnings->setMaximumHeight(4 * m_pWarnings->sizeHintForRow(0) + 2 * m_pWarnings->frameWidth());
+  const bool bAny = m_pWarnings->count() > 0;
+  m_pWarnings->setVisible(bAny);
+  if (bAny) m_pWarnings->setMaximumHeight(4 * m_pWarnings->sizeHintForRow(0) + 2 * m_pWarnings->frameWidth());
 }
 
 }  // namespace vrek::qt

@@ -30,7 +30,7 @@ class ResultView final : public PageView {
   ctlResult& m_Control;
   std::function<TPreview()> m_MakePreview;
   QGroupBox* m_pFrame;
-  QListWidget* m_pWarnings;
+  QListWidget* m_pWarnings = nullptr;
   std::array<std::array<QLabel*, 3>, 6> m_aRows{};  // description, value, unit
   Paging* m_pPaging = nullptr;
   PreviewView* m_pPreview = nullptr;

@@ -86,10 +86,10 @@ void WizardWindow::OpenFolder() {
 void WizardWindow::Render() {
   setWindowTitle(Text(m_Wizard.Caption));
   RenderTitle();
+  Freeze(m_Wizard.Busy());
   ShowPage();
   m_pProgress->Render();
   RenderButtons();
-  Freeze(m_Wizard.Busy());
   m_pReport->Render();
   AssignMnemonics(*this, {m_pNext, m_pBack, m_pCancel, m_pOpenFolder});
 }
@@ -108,19 +108,19 @@ void WizardWindow::RenderButtons() {
   m_pOpenFolder->setVisible(m_Wizard.cmdOpenFolder.Visible);
 }
 
-// A page that comes into view gets the focus on its first control.
+// A page that comes into view gets the focus on its first control; a frozen one could not.
 void WizardWindow::ShowPage() {
   const int nPage = m_Wizard.SSTabWizard.Tab;
   auto* pPage = m_aPages[static_cast<std::size_t>(nPage)];
-  const bool bNew = m_pStack->currentIndex() != nPage;
+  const bool bNew = m_nShown != nPage;
+  m_nShown = nPage;
   m_pStack->setCurrentIndex(nPage);
   pPage->Render();
   pPage->setAccessibleName(Text(m_Wizard.lblTitle.Caption));
   if (!bNew) return;
   // What was hidden before the page had ever been on show still counts in the sizes that its layouts keep.
   for (auto* pChild : pPage->findChildren<QWidget*>()) pChild->updateGeometry();
-  m_pFocusBefore = FirstControl(*pPage);
-  if (m_pFocusBefore && !m_bFrozen) m_pFocusBefore->setFocus();
+  if (auto* pFirst = FirstControl(*pPage)) pFirst->setFocus();
 }
 
 // While a run is on, nothing but the panel takes keys.
@@ -154,13 +154,14 @@ void WizardWindow::closeEvent(QCloseEvent* pEvent) {
   QCoreApplication::quit();
 }
 
-// Enter presses the button that has the focus, else Next. Esc does nothing: Cancel asks no question.
+// Enter presses the button that has the focus, an arrow button too, else Next. Esc does nothing: Cancel asks
+// no question.
 void WizardWindow::keyPressEvent(QKeyEvent* pEvent) {
   if (pEvent->key() != Qt::Key_Return && pEvent->key() != Qt::Key_Enter)
     return QWidget::keyPressEvent(pEvent);
   if (pEvent->isAutoRepeat()) return;  // a key held down doesn't run through the pages
-  auto* pButton = qobject_cast<QPushButton*>(focusWidget());
-  (pButton ? pButton : m_pNext)->click();
+  auto* pButton = qobject_cast<QAbstractButton*>(focusWidget());
+  (pButton && !pButton->isCheckable() ? pButton : m_pNext)->click();
 }
 
 bool WizardWindow::TakesDrop(const QDropEvent& Event) const {

@@ -70,6 +70,7 @@ class WizardWindow final : public QWidget {
   QPushButton *m_pOpenFolder = nullptr, *m_pBack = nullptr, *m_pNext = nullptr, *m_pCancel = nullptr;
   QPointer<QWidget> m_pFocusBefore;  // had the focus when the run began
   bool m_bFrozen = false;
+  int m_nShown = -1;  // the page on show
 };
 
 }  // namespace vrek::qt
