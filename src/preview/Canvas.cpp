@@ -40,6 +40,13 @@ double TextWidth(const std::string& sText) {
   return 0.58 * Drawing::dTextHeight * static_cast<double>(nCharacters);
 }
 
+double LeftOf(const TLabel& Label) {
+  const double dWidth = TextWidth(Label.sText);
+  return Label.At.dX - (Label.eAnchor == EAnchor::eStart    ? 0
+                        : Label.eAnchor == EAnchor::eMiddle ? dWidth / 2
+                                                            : dWidth);
+}
+
 }  // namespace
 
 void CCanvas::Flush(TStroke& Open) {
@@ -73,12 +80,12 @@ void CCanvas::LineInMetres(const std::vector<TPlotPoint>& aPoints, const TStroke
 }
 
 bool CCanvas::Label(const TLabel& Label) {
-  const double dWidth = TextWidth(Label.sText);
-  const double dLeft = Label.At.dX - (Label.eAnchor == EAnchor::eStart    ? 0
-                                      : Label.eAnchor == EAnchor::eMiddle ? dWidth / 2
-                                                                          : dWidth);
-  const bool bCut = Label.eAnchor == EAnchor::eMiddle && (dLeft < 0 || dLeft + dWidth > m_View.dWidth);
-  if (bCut) return false;
+  const double dLeft = LeftOf(Label);
+  return dLeft >= 0 && dLeft + TextWidth(Label.sText) <= m_View.dWidth && Place(Label);
+}
+
+bool CCanvas::Place(const TLabel& Label) {
+  const double dLeft = LeftOf(Label), dWidth = TextWidth(Label.sText);
   const TBox Box{dLeft - 2, Label.At.dY - Drawing::dTextHeight, dLeft + dWidth + 2, Label.At.dY + 3};
   const bool bTaken = std::any_of(m_aTaken.begin(), m_aTaken.end(), [&](const TBox& Other) {
     return Box.dLeft < Other.dRight && Other.dLeft < Box.dRight && Box.dTop < Other.dBottom &&
@@ -98,7 +105,7 @@ TPlotPoint CCanvas::LegendText(const std::string& sText, double dBefore) {
     m_NextLegend = {dMargin, m_NextLegend.dY + Drawing::dTextHeight + dGap};
   }
   const auto At = m_NextLegend;
-  Label({{At.dX + dBefore, At.dY}, sText, EAnchor::eStart, EInk::eText});
+  Place({{At.dX + dBefore, At.dY}, sText, EAnchor::eStart, EInk::eText});
   m_NextLegend.dX += dWidth;
   return At;
 }

@@ -37,6 +37,7 @@ class CCanvas {
     double dLeft, dTop, dRight, dBottom;
   };
   void Flush(TStroke& Open);
+  bool Place(const TLabel& Label);
   TPlotPoint LegendText(const std::string& sText, double dBefore);
 
   TViewport m_View;

@@ -33,7 +33,7 @@ TInkPair Inks(EInk eInk, int nSeries) {
   }
 }
 
-// Rounded to its decimals first, so that 999.9996 becomes the next kilometre.
+// With three digits before the point.
 std::string Padded(double dMetres, int nDecimals) {
   auto sText = FormatReal(dMetres, nDecimals);
   const auto nWhole = std::min(sText.find('.'), sText.size());
@@ -88,6 +88,7 @@ TExtent ExtentOfSection(const TPreviewSection& Section) {
 }
 
 std::string ChainageText(double dChainage, int nDecimals) {
+  // Rounded first, so that 999.9996 becomes the next kilometre.
   const double dUnit = std::pow(10, nDecimals);
   const double dRounded = std::round(std::fabs(dChainage) * dUnit) / dUnit;
   const double dKilometres = std::floor(dRounded / 1000);

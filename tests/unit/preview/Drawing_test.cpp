@@ -79,6 +79,7 @@ TEST(Drawing, PutsNoLabelOnAnother) {
   EXPECT_TRUE(Canvas.Label({{10, 50}, "0+100", EAnchor::eStart, EInk::eText}));
   EXPECT_FALSE(Canvas.Label({{20, 52}, "0+100", EAnchor::eStart, EInk::eText}));
   EXPECT_TRUE(Canvas.Label({{10, 80}, "0+100", EAnchor::eStart, EInk::eText}));
+  EXPECT_FALSE(Canvas.Label({{10, 20}, "0+100", EAnchor::eEnd, EInk::eText})) << "cut by the edge";
 }
 
 // Two profiles from chainage 0 on, in a view where grid lines would otherwise meet the legend and the edges.
