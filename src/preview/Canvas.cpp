@@ -33,11 +33,11 @@ bool SamePlace(const TPlotPoint& A, const TPlotPoint& B) {
   return std::fabs(A.dX - B.dX) < dSamePlace && std::fabs(A.dY - B.dY) < dSamePlace;
 }
 
-// About as wide as a text comes out in a plain font.
+// At least as wide as most texts come out in a plain font, whose digits are its widest common characters.
 double TextWidth(const std::string& sText) {
   const auto nCharacters =
       std::count_if(sText.begin(), sText.end(), [](char c) { return (c & 0xC0) != 0x80; });
-  return 0.58 * Drawing::dTextHeight * static_cast<double>(nCharacters);
+  return 0.64 * Drawing::dTextHeight * static_cast<double>(nCharacters);
 }
 
 double LeftOf(const TLabel& Label) {
