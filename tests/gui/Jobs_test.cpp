@@ -148,6 +148,7 @@ TEST_F(Jobs, EndTheirProcess) {
     Run.OpenFiles(2);
     Run.Type("txtFileName0", sTrackPlan);
     Run.Next(nPresses);
+    std::filesystem::remove_all(Directory);  // behind the end of the process nothing does
     Run.Click(sLast);
   };
   EXPECT_EXIT(Walk(4, "cmdNext"), ::testing::ExitedWithCode(0), "");
