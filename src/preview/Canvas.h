@@ -30,7 +30,10 @@ class CCanvas {
   /// The lower edge of these rows.
   double LegendBottom() const { return m_NextLegend.dY + 4; }
 
-  TDrawing Take() { return std::move(m_Drawing); }
+  TDrawing Take() {
+    m_Drawing.dLegendBottom = LegendBottom();
+    return std::move(m_Drawing);
+  }
 
  private:
   struct TBox {

@@ -87,6 +87,15 @@ TExtent ExtentOfSection(const TPreviewSection& Section) {
   return Extent;
 }
 
+TViewport Whole(const TDrawingContent& Content, double dWidth, double dHeight) {
+  const auto Fit = [&](double dLegend) {
+    // At the sides a height or half a chainage, above a chainage, below the row of the grid or the scale bar.
+    const TMargins Margins{60, dLegend + 20, 30};
+    return Viewport::Fit(Content.Extent, dWidth, dHeight, Margins, Content.bSameScale);
+  };
+  return Fit(Content.Draw(Fit(0)).dLegendBottom);
+}
+
 std::string ChainageText(double dChainage, int nDecimals) {
   // Rounded first, so that 999.9996 becomes the next kilometre.
   const double dUnit = std::pow(10, nDecimals);

@@ -1,6 +1,7 @@
 // Drawing: a picture as strokes and labels in device units, which a window paints and SvgPlot writes.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -39,6 +40,14 @@ struct TDrawing {
   double dWidth = 0, dHeight = 0;
   std::vector<TStroke> aStrokes;
   std::vector<TLabel> aLabels;
+  double dLegendBottom = 0;  ///< lower edge of the legend
+};
+
+/// What is drawn, and how far it reaches.
+struct TDrawingContent {
+  std::function<TDrawing(const TViewport&)> Draw = [](const TViewport&) { return TDrawing{}; };
+  TExtent Extent;
+  bool bSameScale = true;  ///< a metre is as long upwards as across
 };
 
 /// The words of a drawing.
@@ -66,6 +75,9 @@ TDrawing DrawPlan(const TPreview& Shown, const TViewport& View, const Preview::T
 /// is upwards than across.
 TDrawing DrawProfile(const TPreview& Shown, const TViewport& View, const TPlotWords& Words);
 TDrawing DrawSection(const TPreviewSection& Section, const TViewport& View, const TPlotWords& Words);
+
+/// The view of the whole, free of the legend above it and of the labels at the other edges.
+TViewport Whole(const TDrawingContent& Content, double dWidth, double dHeight);
 
 /// "1+234.500", with a minus in front of a negative chainage.
 std::string ChainageText(double dChainage, int nDecimals);

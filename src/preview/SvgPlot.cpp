@@ -8,7 +8,7 @@
 namespace vrek::SvgPlot {
 namespace {
 
-constexpr double dPlotWidth = 1200, dPlanHeight = 700, dProfileHeight = 400, dMargin = 45;
+constexpr double dPlotWidth = 1200, dPlanHeight = 700, dProfileHeight = 400;
 
 void AppendNumber(std::string& sOut, double dValue) {
   AppendReal(sOut, dValue, 2);
@@ -116,11 +116,14 @@ std::string AsSvg(const std::vector<TDrawing>& aDrawings) {
 }
 
 std::string PlotAsSvg(const TPreview& Shown, const TPlotWords& Words) {
-  const auto Plan = Viewport::Fit(Drawing::ExtentOfPlan(Shown), dPlotWidth, dPlanHeight, dMargin, true);
-  std::vector<TDrawing> aDrawings = {Drawing::DrawPlan(Shown, Plan, {}, Words)};
-  if (const auto Extent = Drawing::ExtentOfProfile(Shown); !Extent.bEmpty) {
-    const auto Profile = Viewport::Fit(Extent, dPlotWidth, dProfileHeight, dMargin, false);
-    aDrawings.push_back(Drawing::DrawProfile(Shown, Profile, Words));
+  const TDrawingContent Plan{[&](const TViewport& View) { return Drawing::DrawPlan(Shown, View, {}, Words); },
+                             Drawing::ExtentOfPlan(Shown), true};
+  const TDrawingContent Profile{
+      [&](const TViewport& View) { return Drawing::DrawProfile(Shown, View, Words); },
+      Drawing::ExtentOfProfile(Shown), false};
+  std::vector<TDrawing> aDrawings = {Plan.Draw(Drawing::Whole(Plan, dPlotWidth, dPlanHeight))};
+  if (!Profile.Extent.bEmpty) {
+    aDrawings.push_back(Profile.Draw(Drawing::Whole(Profile, dPlotWidth, dProfileHeight)));
   }
   return AsSvg(aDrawings);
 }

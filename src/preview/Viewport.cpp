@@ -22,6 +22,11 @@ namespace {
 
 constexpr double dLeastScale = 1e-6, dMostScale = 1e6;
 
+// By how much two margins shrink, so that they leave enough of the device.
+double Shrink(double dDevice, double dBoth) {
+  return dBoth > 0 ? std::min(1.0, 0.6 * dDevice / dBoth) : 1;
+}
+
 // A drawing without width or height of its own is shown as if it had a metre.
 double Span(double dFrom, double dTo) {
   return dTo > dFrom ? dTo - dFrom : 1;
@@ -29,16 +34,20 @@ double Span(double dFrom, double dTo) {
 
 }  // namespace
 
-TViewport Fit(const TExtent& Extent, double dWidth, double dHeight, double dMargin, bool bSameScale) {
+TViewport Fit(const TExtent& Extent, double dWidth, double dHeight, const TMargins& Margins,
+              bool bSameScale) {
   TViewport View{dWidth, dHeight, (Extent.dLeft + Extent.dRight) / 2, (Extent.dBottom + Extent.dTop) / 2,
                  1,      1};
-  const auto Scale = [&](double dDevice, double dMetres) {
-    const double dInside = std::max(dDevice - 2 * std::min(dMargin, dDevice / 5), 1.0);
+  const auto Scale = [&](double dDevice, double dBoth, double dMetres) {
+    const double dInside = std::max(dDevice - Shrink(dDevice, dBoth) * dBoth, 1.0);
     return std::clamp(dInside / dMetres, dLeastScale, dMostScale);
   };
-  View.dScaleX = Scale(dWidth, Span(Extent.dLeft, Extent.dRight));
-  View.dScaleY = Scale(dHeight, Span(Extent.dBottom, Extent.dTop));
+  const double dBoth = Margins.dTop + Margins.dBottom;
+  View.dScaleX = Scale(dWidth, 2 * Margins.dSides, Span(Extent.dLeft, Extent.dRight));
+  View.dScaleY = Scale(dHeight, dBoth, Span(Extent.dBottom, Extent.dTop));
   if (bSameScale) View.dScaleX = View.dScaleY = std::min(View.dScaleX, View.dScaleY);
+  // The middle of what is left, not of the device.
+  Pan(View, 0, Shrink(dHeight, dBoth) * (Margins.dTop - Margins.dBottom) / 2);
   return View;
 }
 

@@ -27,11 +27,16 @@ struct TViewport {
   }
 };
 
+/// What stays free at the edges, device units.
+struct TMargins {
+  double dSides = 0, dTop = 0, dBottom = 0;
+};
+
 namespace Viewport {
 
-/// The whole extent with a margin of device units, at most a fifth of the device on each side. bSameScale: a
-/// metre is as long upwards as across.
-TViewport Fit(const TExtent& Extent, double dWidth, double dHeight, double dMargin, bool bSameScale);
+/// The whole extent inside the margins, which in a small device give way until two fifths of it are left.
+/// bSameScale: a metre is as long upwards as across.
+TViewport Fit(const TExtent& Extent, double dWidth, double dHeight, const TMargins& Margins, bool bSameScale);
 
 /// Moves what is shown by device units: positive to the right and downwards.
 void Pan(TViewport& View, double dRight, double dDown);

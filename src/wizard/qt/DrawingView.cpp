@@ -13,7 +13,7 @@
 namespace vrek::qt {
 namespace {
 
-constexpr double dMargin = 40, dKeyStep = 40, dKeyZoom = 1.25;
+constexpr double dKeyStep = 40, dKeyZoom = 1.25;
 
 QColor Color(EInk eInk, int nSeries, bool bDark) {
   return QColor::fromRgb(static_cast<QRgb>(InkColor(eInk, nSeries, bDark)));
@@ -54,7 +54,7 @@ QSize DrawingView::sizeHint() const {
 }
 
 QSize DrawingView::minimumSizeHint() const {
-  return {fontMetrics().averageCharWidth() * 20, fontMetrics().height() * 6};
+  return {fontMetrics().averageCharWidth() * 20, fontMetrics().height() * 8};
 }
 
 double DrawingView::PixelsToUnit() const {
@@ -78,13 +78,12 @@ void DrawingView::SetContent(TDrawingContent Content, bool bKeepPlace) {
 
 void DrawingView::Fit() {
   m_bWhole = true;
-  m_View = Viewport::Fit(m_Content.Extent, width() / PixelsToUnit(), height() / PixelsToUnit(), dMargin,
-                         m_Content.bSameScale);
+  m_View = Drawing::Whole(m_Content, width() / PixelsToUnit(), height() / PixelsToUnit());
   update();
 }
 
 TDrawing DrawingView::Drawing() const {
-  return m_Content.Draw ? m_Content.Draw(m_View) : TDrawing{};
+  return m_Content.Draw(m_View);
 }
 
 void DrawingView::Paint(QPainter& Painter, const TDrawing& Drawing, bool bDark) {

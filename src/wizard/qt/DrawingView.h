@@ -4,20 +4,12 @@
 
 #include <QPointF>
 #include <QWidget>
-#include <functional>
 
 #include "preview/Drawing.h"
 
 class QPainter;
 
 namespace vrek::qt {
-
-/// What is drawn.
-struct TDrawingContent {
-  std::function<TDrawing(const TViewport&)> Draw;
-  TExtent Extent;
-  bool bSameScale = true;  ///< a metre is as long upwards as across
-};
 
 class DrawingView final : public QWidget {
   Q_OBJECT

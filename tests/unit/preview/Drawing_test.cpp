@@ -39,7 +39,7 @@ TEST(Drawing, TellsTheDataOfAnElement) {
 TEST(Drawing, ThinsOutItsChainageMarks) {
   for (const double dLength : {50.0, 1000.0, 100000.0}) {
     const auto Shown = OneStraight(dLength);
-    const auto View = Viewport::Fit(Drawing::ExtentOfPlan(Shown), 1000, 300, 40, true);
+    const auto View = Viewport::Fit(Drawing::ExtentOfPlan(Shown), 1000, 300, {40, 40, 40}, true);
     int nMarks = 0;
     for (const auto& Label : Drawing::DrawPlan(Shown, View, {}, {}).aLabels) {
       nMarks += Label.sText.find('+') != std::string::npos;
@@ -51,7 +51,7 @@ TEST(Drawing, ThinsOutItsChainageMarks) {
 
 TEST(Drawing, CutsItsStrokesAtTheEdgeHoweverNear) {
   const auto Shown = OneStraight(6000);
-  auto View = Viewport::Fit(Drawing::ExtentOfPlan(Shown), 600, 400, 40, true);
+  auto View = Viewport::Fit(Drawing::ExtentOfPlan(Shown), 600, 400, {40, 40, 40}, true);
   for (int n = 0; n < 60; ++n) Viewport::Zoom(View, 1.25, 300, 200);
   const auto Drawn = Drawing::DrawPlan(Shown, View, {0, 0}, {});
   EXPECT_FALSE(Drawn.aStrokes.empty());
@@ -82,25 +82,38 @@ TEST(Drawing, PutsNoLabelOnAnother) {
   EXPECT_FALSE(Canvas.Label({{10, 20}, "0+100", EAnchor::eEnd, EInk::eText})) << "cut by the edge";
 }
 
-// Two profiles from chainage 0 on, in a view where grid lines would otherwise meet the legend and the edges.
-TEST(Drawing, KeepsTheGridOfAProfileOffItsLegend) {
+// Two profiles from chainage 0 on.
+TDrawing DrawTwoProfiles(double dWidth, double dHeight) {
   TPreview Shown;
   for (const char* sName : {"Left track", "Right track"}) {
     Shown.aAligments.push_back({1, sName, {}, {{false, {{0, 293.6}, {6220, 319.4}}}}, {}});
   }
-  const auto View = Viewport::Fit(Drawing::ExtentOfProfile(Shown), 960, 520, 40, false);
-  const auto Drawn = Drawing::DrawProfile(Shown, View, {});
+  const TDrawingContent Content{[&](const TViewport& View) { return Drawing::DrawProfile(Shown, View, {}); },
+                                Drawing::ExtentOfProfile(Shown), false};
+  return Content.Draw(Drawing::Whole(Content, dWidth, dHeight));
+}
+
+TEST(Drawing, LabelsTheGridOfAProfile) {
   std::set<std::string> aTexts;
-  double dLegend = 0;
-  for (const auto& Label : Drawn.aLabels) {
-    aTexts.insert(Label.sText);
-    if (Label.sText == "Right track") dLegend = Label.At.dY;
-  }
-  for (const char* sText : {"0+000", "6+000", "295 m", "315 m", "heights enlarged × 121"}) {
+  for (const auto& Label : DrawTwoProfiles(960, 520).aLabels) aTexts.insert(Label.sText);
+  for (const char* sText : {"0+000", "6+000", "294 m", "318 m", "heights enlarged × 130"}) {
     EXPECT_TRUE(aTexts.count(sText)) << sText;
   }
-  for (const auto& Stroke : Drawn.aStrokes) {
-    EXPECT_TRUE(Stroke.eInk != EInk::eGrid || Stroke.aPoints.front().dY > dLegend);
+}
+
+TEST(Drawing, StandsFreeOfItsLegendAndLabels) {
+  for (const TPlotPoint& Size : {TPlotPoint{960, 520}, {330, 110}}) {
+    const auto Drawn = DrawTwoProfiles(Size.dX, Size.dY);
+    for (const auto& Stroke : Drawn.aStrokes) {
+      const bool bProfile = Stroke.eInk == EInk::eSeries && Stroke.dWidth < 3;  // no sample of the legend
+      for (const auto& Point : Stroke.aPoints) {
+        EXPECT_TRUE(Stroke.eInk != EInk::eGrid || Point.dY >= Drawn.dLegendBottom) << Size.dX;
+        if (!bProfile) continue;
+        EXPECT_GT(Point.dY, Drawn.dLegendBottom) << Size.dX;
+        EXPECT_LT(Point.dY, Size.dY - 4 - Drawing::dTextHeight) << Size.dX;
+        EXPECT_GT(Point.dX, 4 + 0.64 * Drawing::dTextHeight * 5) << "behind 300 m, " << Size.dX;
+      }
+    }
   }
 }
 
