@@ -94,7 +94,8 @@ std::size_t CountStrayLfs(const std::string& sPath) {
     nStray += sBytes.front() == '\n' && cBefore != '\r' ? 1 : 0;
     // Without branches, so that many bytes are looked at at once.
     for (std::size_t n = 1; n < sBytes.size(); ++n) {
-      nStray += static_cast<std::size_t>((sBytes[n] == '\n') & (sBytes[n - 1] != '\r'));
+      const std::size_t nLf = sBytes[n] == '\n' ? 1 : 0, nAlone = sBytes[n - 1] == '\r' ? 0 : 1;
+      nStray += nLf & nAlone;
     }
     cBefore = sBytes.back();
   }
