@@ -245,20 +245,7 @@ TEST_F(Command, PathsOfAJobFileAreRelativeToIt) {
 }
 
 TEST_F(Command, LayersAreChosenByName) {
-  std::vector<std::string> aRoad = {"road",
-                                    "--formats",
-                                    "7",
-                                    "--hz",
-                                    Example("road/Axis 1.plt"),
-                                    "--vt",
-                                    Example("road/Axis 1.alz"),
-                                    "--cross",
-                                    Example("road/Axis 1.trv"),
-                                    "-o",
-                                    "out.xml",
-                                    "--json",
-                                    "--layers",
-                                    "Rasante,Taludes"};
+  auto aRoad = RoadArguments({"--json", "--layers", "Rasante,Taludes"});
   const auto Json = json::parse(Run(aRoad).sOut);
   std::string sSelected;
   for (const auto& Layer : Json["layers"]) sSelected += Layer["selected"].get<bool>() ? '1' : '0';

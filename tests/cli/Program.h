@@ -55,6 +55,15 @@ class ProgramTest : public ::testing::Test {
   }
   static std::string Example(const std::string& sName) { return std::string(VREK_EXAMPLES) + "/" + sName; }
 
+  /// The example road, written to out.xml.
+  static std::vector<std::string> RoadArguments(const std::vector<std::string>& aMore = {}) {
+    std::vector<std::string> aOut{"road", "--formats", "7", "--hz", Example("road/Axis 1.plt")};
+    aOut.insert(aOut.end(), {"--vt", Example("road/Axis 1.alz"), "--cross", Example("road/Axis 1.trv")});
+    aOut.insert(aOut.end(), {"-o", "out.xml"});
+    aOut.insert(aOut.end(), aMore.begin(), aMore.end());
+    return aOut;
+  }
+
   /// Cross-sections enough to keep the program busy for seconds.
   std::string LongRoad(const std::string& sName) const {
     std::string sText = "*TRV\r\nSECTIONS\r\n";

@@ -1,4 +1,5 @@
 // What the program warns of: the same whether it converts or only checks.
+#include <algorithm>
 #include <sstream>
 
 #include "Program.h"
@@ -14,21 +15,6 @@ class CommandWarnings : public test::ProgramTest {
     const auto sTold = Told(aArguments, false);
     EXPECT_EQ(sChecked, sTold);
     return sTold;
-  }
-  std::vector<std::string> Road(std::vector<std::string> aMore = {}) const {
-    std::vector<std::string> aArguments{"road",
-                                        "--formats",
-                                        "7",
-                                        "--hz",
-                                        Example("road/Axis 1.plt"),
-                                        "--vt",
-                                        Example("road/Axis 1.alz"),
-                                        "--cross",
-                                        Example("road/Axis 1.trv"),
-                                        "-o",
-                                        "out.xml"};
-    aArguments.insert(aArguments.end(), aMore.begin(), aMore.end());
-    return aArguments;
   }
 
  private:
@@ -46,14 +32,14 @@ class CommandWarnings : public test::ProgramTest {
 };
 
 TEST_F(CommandWarnings, OfTheRange) {
-  EXPECT_EQ(Of(Road()), "");
-  EXPECT_EQ(Of(Road({"--from", "100", "--to", "400"})), "") << "who asks for less means it";
+  EXPECT_EQ(Of(RoadArguments()), "");
+  EXPECT_EQ(Of(RoadArguments({"--from", "100", "--to", "400"})), "") << "who asks for less means it";
   EXPECT_EQ(
-      Of(Road({"--from", "900", "--to", "1000"})),
+      Of(RoadArguments({"--from", "900", "--to", "1000"})),
       "The range 900.000 to 1000.000 lies outside the plan \"Axis 1\", which goes from 0.000 to 800.000, so "
       "the document is of no use. Give a range on the plan.\n");
   EXPECT_EQ(
-      Of(Road({"--from", "500", "--to", "100"})),
+      Of(RoadArguments({"--from", "500", "--to", "100"})),
       "The range begins at 500.000, behind its end at 100.000, so the document is of no use. Give a range "
       "that rises; the axis goes from 0.000 to 800.000.\n");
 }
@@ -62,14 +48,15 @@ TEST_F(CommandWarnings, OfWhatTheAxisLeavesOut) {
   Write("short.plt",
         "*PLT\r\n0.000,431200.0000,4581300.0000,44.444444,0.000,0.0000\r\n"
         "120.000,431277.1345,4581391.9253,44.444444,0.000,0.0000\r\n");
-  auto aArguments = Road();
-  aArguments[4] = "short.plt";
+  auto aArguments = RoadArguments();
+  *std::find(aArguments.begin(), aArguments.end(), Example("road/Axis 1.plt")) = "short.plt";
   EXPECT_EQ(Of(aArguments).substr(0, 60), "The profile \"Axis 1\" has elements outside the range 0.000 to");
 }
 
 TEST_F(CommandWarnings, OfALayerThatIsNotOnOffer) {
-  EXPECT_EQ(Of(Road({"--layers", " Rasante , Taludes"})), "") << "blanks around a name aren't part of it";
-  EXPECT_EQ(Of(Road({"--layers", "Rasante,Cunetes"})),
+  EXPECT_EQ(Of(RoadArguments({"--layers", " Rasante , Taludes"})), "")
+      << "blanks around a name aren't part of it";
+  EXPECT_EQ(Of(RoadArguments({"--layers", "Rasante,Cunetes"})),
             "The layer \"Cunetes\" isn't on offer, so nothing of it is written. On offer: Taludes, Cunetas, "
             "Subrasante, Rasante.\n");
   EXPECT_EQ(Of({"rail", "--hz", Example("rail/Track.plt"), "-o", "out.xml", "--layers", "A"}),
