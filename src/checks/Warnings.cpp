@@ -69,7 +69,8 @@ std::string CountOf(EChainages eWhat, std::size_t n) {
 }  // namespace
 
 std::string Metres(double dValue) {
-  return FormatReal(dValue, 3);
+  if (std::isfinite(dValue)) return FormatReal(dValue, 3);
+  return std::isnan(dValue) ? "?" : dValue > 0 ? "∞" : "-∞";
 }
 
 std::string List(const std::vector<double>& aValues) {

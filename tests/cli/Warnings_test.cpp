@@ -42,6 +42,7 @@ TEST_F(CommandWarnings, OfTheRange) {
       Of(RoadArguments({"--from", "500", "--to", "100"})),
       "The range begins at 500.000, behind its end at 100.000, so the document is of no use. Give a range "
       "that rises; the axis goes from 0.000 to 800.000.\n");
+  EXPECT_EQ(Of(RoadArguments({"--from", "1e400"})).substr(0, 36), "The range begins at ∞, behind its ");
 }
 
 TEST_F(CommandWarnings, OfWhatTheAxisLeavesOut) {
