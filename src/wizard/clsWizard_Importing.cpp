@@ -147,6 +147,8 @@ void clsWizard::GenerateTrack(const TImport& Import, int nTarget, int nSource, b
   Progress.Reset();
   Progress.Tittle(sTittle);
   Progress.ShowCancel(true);
+  // Marked first: a failure that rises from here must not leave a profile out in silence.
+  m_Window.ctlImporting.SetImage(Root(nTarget), "Vt", EImage::eFailure);
   const bool bOk =
       Import.aSupOk.at(static_cast<std::size_t>(nTarget)) &&
       CAligmentsDatas::GenerateVtAligment(nTarget, nSource, nTarget, dSampleStep, Progress, bFromCentre);

@@ -92,6 +92,23 @@ TEST_F(Importing, ACancelledGenerationIsMarkedAsFailed) {
   EXPECT_TRUE(CAligmentsDatas::GetAligmentType(2) & AligmentType::nVt);
 }
 
+// Without its mark the document would go out without that profile.
+TEST_F(Importing, AGenerationThatFailsIsMarkedAndHoldsUpNext) {
+  OpenGenerated(Example("double/Left cant.xml"));
+  Window.cmdBack_Click();
+  Type(3, 1,
+       WriteFile("endless.plt",
+                 "*PLT\r\n0.000,437500.0000,4570900.0000,100.000000,0.000,0.0000\r\n"
+                 "11000000.000,11437500.0000,4570900.0000,100.000000,0.000,0.0000\r\n"));
+  Next();
+  Next();
+  ASSERT_EQ(Window.CurrentPage(), ePageImporting);
+  EXPECT_EQ(Platform.aBoxes.size(), 1U);
+  EXPECT_EQ(Image("PAGE2@Vt"), 2);
+  Next();
+  EXPECT_EQ(Window.CurrentPage(), ePageImporting);
+}
+
 TEST_F(Importing, TheTreeRefusesAKeyTwice) {
   auto& Tree = Window.ctlImporting;
   ASSERT_TRUE(Tree.AddRoot("PAGE1", "one"));
