@@ -66,7 +66,7 @@ std::string Formatted(const std::tm& Time, const char* pFormat) {
 std::string RootLine() {
   static constexpr std::string_view sNamespace = "http://www.landxml.org/schema/LandXML-1.0";
   static constexpr std::string_view sInstance = "http://www.w3.org/2001/XMLSchema-instance";
-  const std::tm Now = AppModel().Platform().pClock->Now();
+  const std::tm Now = AppModel().Platform().pClock->DocumentTime();
   std::string sLine = "<LandXML xmlns=\"";
   sLine.append(sNamespace).append("\" xmlns:xsi=\"").append(sInstance);
   sLine.append("\" xsi:schemaLocation=\"").append(sNamespace).append(" ").append(sNamespace);

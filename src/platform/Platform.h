@@ -25,11 +25,13 @@ class IDialogs {
   virtual std::string SaveFile(std::string_view sFilter, std::string_view sFilename) = 0;
 };
 
-/// Local time. Date and time of the document and of the log.
+/// Local time.
 class IClock {
  public:
   virtual ~IClock() = default;
   virtual std::tm Now() const = 0;
+  /// What the document bears.
+  virtual std::tm DocumentTime() const { return Now(); }
 };
 
 /// Who runs the program, and where.

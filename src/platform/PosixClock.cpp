@@ -23,11 +23,17 @@ std::optional<std::time_t> FixedMoment() {
 
 std::tm SystemClock::Now() const {
   const std::time_t nNow = std::time(nullptr);
-  const std::time_t nMoment = FixedMoment().value_or(nNow);
   ::tzset();
   std::tm Local{};
-  if (::localtime_r(&nMoment, &Local) == nullptr) ::localtime_r(&nNow, &Local);
+  ::localtime_r(&nNow, &Local);
   return Local;
+}
+
+std::tm SystemClock::DocumentTime() const {
+  const auto nMoment = FixedMoment();
+  ::tzset();
+  std::tm Local{};
+  return nMoment && ::localtime_r(&*nMoment, &Local) != nullptr ? Local : Now();
 }
 
 }  // namespace vrek

@@ -8,10 +8,11 @@
 
 namespace vrek {
 
-/// The local time; where SOURCE_DATE_EPOCH holds a number of seconds, that moment in the local time zone.
 class SystemClock final : public IClock {
  public:
   std::tm Now() const override;
+  /// Where SOURCE_DATE_EPOCH holds a number of seconds, that moment in the local time zone.
+  std::tm DocumentTime() const override;
 };
 
 /// User, program directory and temporary directory ($TMPDIR, else /tmp) of this process.
