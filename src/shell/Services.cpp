@@ -17,6 +17,11 @@ bool ExistFile(const std::string& sFilename) {
   return CanOpenForReading(sFilename);
 }
 
+std::string SiblingProgram(std::string_view sName) {
+  const auto sPath = AppModel().Platform().pEnvironment->ProgramDirectory() + "/" + std::string(sName);
+  return sPath.find(' ') == sPath.npos ? sPath : "\"" + sPath + "\"";
+}
+
 void ShellAndWait(std::string_view sCommand) {
   AppModel().Platform().pProcesses->RunAndWait(sCommand);
 }

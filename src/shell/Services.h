@@ -17,6 +17,10 @@ std::string GetCurrentUserName();
 /// True when the file can be opened for reading; false for a folder or an empty name. No failure.
 bool ExistFile(const std::string& sFilename);
 
+/// How a command line names a program that is installed beside this one: its path, in quotes where that holds
+/// a blank.
+std::string SiblingProgram(std::string_view sName);
+
 /// Runs a command line and waits for its end. Whether it could be started isn't looked at.
 void ShellAndWait(std::string_view sCommand);
 

@@ -2,6 +2,7 @@
 #include "base/Failure.h"
 #include "base/ST.h"
 #include "shell/AppModel.h"
+#include "shell/Services.h"
 #include "wizard/clsWizard.h"
 #include "wizard/frmWizard.h"
 
@@ -27,8 +28,7 @@ bool clsWizard::IntroPageFiles() {
   ShowTitle("LBL_FIL_TIT", "LBL_FIL_SUBTIT");
   auto& Files = m_Window.ctlFiles;
   const int nJob = m_Window.ctlJobType.JobType();
-  const auto sDirectory = AppModel().Platform().pEnvironment->ProgramDirectory() + "/";
-  const auto sCantEditor = sDirectory + "TrackTableEditor.exe -l ";
+  const auto sCantEditor = SiblingProgram("TrackTableEditor.exe") + " -l ";
   Files.DeleteAllPages();
   switch (nJob) {
     case eRoad:
@@ -36,7 +36,8 @@ bool clsWizard::IntroPageFiles() {
       break;
     case eTunnel:
       Files.AddPage(Token("FR_FILES_TUNNEL"));
-      Files.ConfigFile(1, 3, Token("LBL_FIL_TUNNEL"), sFilterXml, sDirectory + "BoreSectionEditor.exe -l ");
+      Files.ConfigFile(1, 3, Token("LBL_FIL_TUNNEL"), sFilterXml,
+                       SiblingProgram("BoreSectionEditor.exe") + " -l ");
       break;
     case eRailSingle:
       Files.AddPage(Token("FR_FILES_RAILSINGLE"));

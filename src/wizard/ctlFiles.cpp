@@ -129,7 +129,8 @@ void ctlFiles::LoadControls() {
     Control.Filter = Slot.sFilter;
     Control.SetEditCmd(Slot.sEditCmd);
     Control.SetChecked(Slot.bChecked);
-    Control.txtFileName.Enabled = true;  // a slot that comes on show empty waits for a path
+    // A slot that comes on show empty waits for a path.
+    Control.txtFileName.Enabled = Slot.bChecked || Slot.sFilename.empty();
     Control.SetOption(Slot.bShowOption, Slot.bOptionValue, Slot.sOptionCaption);
     Control.txtFileName.FileMissing = false;
   }
@@ -191,19 +192,18 @@ void ctlFiles::ApplyOptionRule() {
 
 void ctlFiles::RebuildEditCommand(int nIndex) {
   auto& Control = ctlSelectFile[static_cast<std::size_t>(nIndex)];
-  const auto sDirectory = AppModel().Platform().pEnvironment->ProgramDirectory() + "/";
   switch (m_Job.JobType()) {
     case eTunnel:
-      Control.SetEditCmd(sDirectory + "BoreSectionEditor.exe -l");
+      Control.SetEditCmd(SiblingProgram("BoreSectionEditor.exe") + " -l");
       break;
     case eRailSingle:
-      Control.SetEditCmd(sDirectory + "TrackTableEditor.exe -s -l");
+      Control.SetEditCmd(SiblingProgram("TrackTableEditor.exe") + " -s -l");
       break;
     case eRailDouble: {
       const auto Option = [&](int nPage) { return Slot(nPage, 2) && Slot(nPage, 2)->bOptionValue; };
       const bool bAnyOption = ctlSelectFile[1].OptionValue() || Option(2) || Option(3);
       const bool bCentre = IsSelected(1, 1) && IsSelected(1, 2);
-      Control.SetEditCmd(sDirectory + "TrackTableEditor.exe" + (bAnyOption ? " -d1" : " -d") +
+      Control.SetEditCmd(SiblingProgram("TrackTableEditor.exe") + (bAnyOption ? " -d1" : " -d") +
                          (bCentre ? " -c" : "") + " -l");
       break;
     }

@@ -155,6 +155,16 @@ TEST_F(FilesPage, FindsAFileThatIsGone) {
   EXPECT_FALSE(Slot(1).txtFileName.FileMissing);
 }
 
+TEST_F(FilesPage, ABoxThatIsClearKeepsItsPathGreyWhenItsPageComesBack) {
+  OpenFiles(eRailDouble);
+  Type(2, 1, "a.plt");
+  Slot(1).chkFile_Click(false);
+  Window.ctlFiles.ShowPage(1);
+  Window.ctlFiles.ShowPage(2);
+  EXPECT_EQ(Slot(1).Filename(), "a.plt");
+  EXPECT_FALSE(Slot(1).txtFileName.Enabled);
+}
+
 TEST_F(FilesPage, StartsTheEditorsWithTheirArguments) {
   const auto sCommand = [this](int nJob, int nFile, int nOption, bool bCentre) {
     OpenFiles(nJob);
@@ -171,6 +181,11 @@ TEST_F(FilesPage, StartsTheEditorsWithTheirArguments) {
   EXPECT_EQ(sCommand(3, 4, 0, true), "TrackTableEditor.exe -d -c -l cant.xml");
   EXPECT_EQ(sCommand(3, 4, 2, false), "TrackTableEditor.exe -d1 -l cant.xml");
   EXPECT_EQ(sCommand(3, 4, 3, true), "TrackTableEditor.exe -d1 -c -l cant.xml");
+  Platform.sProgramDirectory = "/opt/my tools";
+  OpenFiles(eTunnel);
+  Slot(3).txtFileName_Change("bore.xml");
+  Slot(3).cmdEdit_Click();
+  EXPECT_EQ(Platform.aCommands.back(), "\"/opt/my tools/BoreSectionEditor.exe\" -l bore.xml");
 }
 
 TEST_F(FilesPage, TakesDroppedFilesEachWhereItFits) {
